@@ -1,0 +1,24 @@
+#pragma once
+#include <string>
+#include <vector>
+
+#include "core/Game.h"
+
+namespace jv::cli {
+
+// Each command takes its arguments (after the command's name) and returns
+// the process exit code: 0 done, 1 refused usage, 2 unreadable input.
+using Args = std::vector<std::string>;
+
+int RunAnalyse(const Args& args);
+
+// Prepares a game for a command: the program's folder, the column letters,
+// the given view.
+void PrepareGame(Game& g, GameView& view);
+
+// Reads a layout from a file name, or a layout line from standard input
+// when the name is "-". On failure prints "Error reading Layout File:" and
+// the name on standard error and returns false.
+bool ReadLayoutArgument(Game& g, const std::string& name);
+
+}  // namespace jv::cli

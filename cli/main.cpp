@@ -1,0 +1,36 @@
+#include <iostream>
+#include <map>
+#include <string>
+
+#include "cli/Commands.h"
+
+namespace {
+
+struct Command {
+    int (*run)(const jv::cli::Args&);
+    const char* usage;
+};
+
+// The commands, by name.
+const std::map<std::string, Command>& Commands() {
+    using namespace jv::cli;
+    static const std::map<std::string, Command> commands = {
+        {"analyse", {RunAnalyse, "analyse FILE|-      print the analysis of a layout"}},
+    };
+    return commands;
+}
+
+int Usage() {
+    std::cerr << "usage: jarlsvakt-cli COMMAND ARGS...\ncommands:\n";
+    for (const auto& [name, command] : Commands()) std::cerr << "  " << command.usage << '\n';
+    return 1;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (argc < 2) return Usage();
+    const auto found = Commands().find(argv[1]);
+    if (found == Commands().end()) return Usage();
+    return found->second.run(jv::cli::Args(argv + 2, argv + argc));
+}

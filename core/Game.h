@@ -1,0 +1,110 @@
+#pragma once
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "core/Chance.h"
+#include "core/Grid.h"
+
+namespace jv {
+
+class GameView;
+
+// The square codes. The rules compare against these names, never against
+// the literal values.
+constexpr int AttackerCode = 1;
+constexpr int DefenderCode = 0;
+constexpr int EmptyCode = -1;
+constexpr int HomeCode = -99;
+
+// The largest board the per-square tables take.
+constexpr int MaxBoardSide = 14;
+
+struct Square {
+    int Col = -1;   // -1: no square
+    int Row = -1;
+};
+
+// A clock reading for the moves-log file name.
+struct ClockReading {
+    int Month = 1, Day = 1, Hour = 0, Minute = 0;
+};
+
+// The game's shared state. The procedures are free functions that take the
+// game first; the program owns exactly one Game, a test builds one per case.
+struct Game {
+    // Board and position.
+    Grid<std::int32_t> Board;
+    int BoardWidth = 0;
+    int BoardHeight = 0;
+    int KingCol = 0;
+    int KingRow = 0;
+    int CentreCol = 0;
+    int CentreRow = 0;
+    Square DragSource;
+    Square PointerSquare;
+    bool DragLineVisible = false;
+
+    // Square numbering: SquareNumber(col, row) is 1..W*H column by column;
+    // SquareCol and SquareRow give a number's square back.
+    Grid<int> SquareNumber;
+    std::array<int, MaxBoardSide * MaxBoardSide + 1> SquareCol{};
+    std::array<int, MaxBoardSide * MaxBoardSide + 1> SquareRow{};
+    std::array<std::string, 17> ColumnLetters;   // index 1..16: "A".."P"
+
+    // Analysis of the position, rebuilt by AnalysePosition.
+    Grid<std::string> MoveTargets;
+    std::array<Grid<std::int8_t>, 2> ReachMap;   // indexed by side code 0 / 1
+    std::array<std::string, 2> CaptureChances;
+    std::string KingCaptureSquares;
+    int DefenderCount = 0;   // defenders without the King
+    int AttackerCount = 0;
+
+    // The computer players' tables.
+    Grid<std::int32_t> SquareWeight;
+    Grid<std::int32_t> PlanBonus;
+    Grid<std::int32_t> DefenderScore;
+    Grid<std::int32_t> DefenderBonus;
+
+    // The lists the user reads.
+    std::vector<std::string> List1A, List2A, List3, List1;
+    std::vector<std::string> List1D, List2D;
+    std::vector<std::string> AttackerMovesRank, DefenderMovesRank;
+    std::vector<std::string> Undo;
+    std::vector<std::string> EventLog;
+
+    // Files.
+    std::string ProgramFolder;   // ends with a folder separator
+    std::string LayoutFile = "patf.txt";
+    std::string MovesLogFile;
+
+    // Settings kept in the configuration file.
+    std::string SchemeFile = "xp.col";
+    std::array<std::string, 4> PictureFiles{"player00.ico", "player10.ico", "home0.ico",
+                                            "king0.ico"};
+    std::array<std::int32_t, 4> PieceColours{32768, 128, 8421504, 0};
+    int BoardStyle = 0;
+    int SquareGap = 1;
+    int ShowLabels = 1;
+    int ColourMode = 0;
+    std::array<std::int32_t, 14> ColourTable{};   // 0..12 from the scheme, 13 from the cfg
+
+    // Session.
+    bool Check1 = true;          // "Computer Moves Auto after User Move"
+    bool Check2 = false;         // recording the moves log
+    bool EditorOn = false;       // the layout editor's palette Picture2 is visible
+    bool BoardEnabled = true;    // Picture1 takes pointer input; false once a game ends
+    bool Ending = false;         // the program is ending
+    std::array<int, 2> TurnCounts{0, 0};
+    int LayoutLoadDepth = 0;     // guards LoadLayout's retry of the previous file
+
+    Chance Random;
+    // The clock that names a new moves log; the system clock unless a test
+    // sets another.
+    std::function<ClockReading()> Clock;
+    GameView* View = nullptr;
+};
+
+}  // namespace jv

@@ -1,0 +1,26 @@
+#pragma once
+#include "core/Game.h"
+
+namespace jv {
+
+// Carries a piece over (the King's square follows), repaints the two squares
+// and logs the move. Checks nothing.
+void MovePiece(Game& g, int fromCol, int fromRow, int toCol, int toRow);
+
+// Shows the drag line from source to target for a second.
+void AnimateMove(Game& g, int fromCol, int fromRow, int toCol, int toRow);
+
+// Takes every enemy piece sandwiched by the piece that has just moved to
+// (col, row), one second apart.
+void CaptureAround(Game& g, int col, int row);
+
+// 99 when the King is taken: by four attackers, or by three against the
+// edge, a Home corner beside him counting as an attacker.
+int CheckKingCapture(Game& g);
+
+// The computer's moves and the user's drop.
+void MakeAttackerMove(Game& g, int fromCol, int fromRow, int toCol, int toRow);
+void MakeDefenderMove(Game& g, int fromCol, int fromRow, int toCol, int toRow);
+void DropPiece(Game& g, int col, int row);
+
+}  // namespace jv

@@ -1,0 +1,23 @@
+#pragma once
+#include <string>
+
+#include "core/Game.h"
+
+namespace jv {
+
+// The board's pointer rules. The user plays the defenders and the King, and
+// only legal moves: a drag starts on a defender or the King while the board
+// takes input; a drop is accepted on a square of the piece's MoveTargets, and
+// for the King also on a Home corner at the end of a free straight line.
+
+bool CanStartDrag(const Game& g, int col, int row);
+// Starts a drag: sets DragSource and shows the drag line. False when refused.
+bool BeginDrag(Game& g, int col, int row);
+bool AcceptsDrop(const Game& g, int col, int row);
+// Ends the drag on (col, row): an accepted drop goes to DropPiece, any
+// other cancels the drag silently. True when the drop was accepted.
+bool EndDrag(Game& g, int col, int row);
+// The hint while the pointer is over a square: its name and what stands on it.
+std::string PointerHint(const Game& g, int col, int row);
+
+}  // namespace jv

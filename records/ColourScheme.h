@@ -1,0 +1,16 @@
+#pragma once
+#include <string>
+#include <vector>
+
+#include "core/Game.h"
+
+namespace jv {
+
+// The names of the schemes in "all.col", in file order ("xp.col" as "xp").
+std::vector<std::string> FillSchemeList(const Game& g);
+
+// Loads the named scheme (e.g. "xp.col") into ColourTable entries 0..12.
+// False, with a message, when the scheme is not in the file.
+bool LoadColourScheme(Game& g, const std::string& name);
+
+}  // namespace jv

@@ -1,0 +1,34 @@
+#include "records/LayoutFile.h"
+
+#include "core/Board.h"
+#include "core/VbText.h"
+#include "records/PositionRecord.h"
+#include "records/TextFile.h"
+
+namespace jv {
+
+bool WriteLayoutFile(const Game& g, const std::string& path) {
+    return WriteFileAtomically(path, LayoutLine(g) + "\r\n");
+}
+
+bool ApplyLayoutLine(Game& g, const std::string& line) {
+    const std::string_view l(line);
+    const int width = ValInt(l.substr(0, 2));
+    const int height = ValInt(l.substr(std::min<std::size_t>(2, l.size()), 2));
+    // The per-square tables end at 14; a larger (or negative) size cannot be
+    // played and counts as a file that cannot be read.
+    if (width < 0 || height < 0 || width > MaxBoardSide || height > MaxBoardSide) return true;
+    NewBoard(g, width, height);
+    ApplyPositionRecord(g, std::string(l.substr(std::min<std::size_t>(4, l.size()))));
+    for (int col = -1; col <= width + 1; ++col)
+        for (int row = -1; row <= height + 1; ++row) g.SquareWeight(col, row) = 10;
+    return false;
+}
+
+bool ReadLayoutFile(Game& g, const std::string& path) {
+    std::string line;
+    if (!ReadFirstLine(path, line)) return true;
+    return ApplyLayoutLine(g, line);
+}
+
+}  // namespace jv

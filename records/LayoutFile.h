@@ -1,0 +1,20 @@
+#pragma once
+#include <string>
+
+#include "core/Game.h"
+
+namespace jv {
+
+// Writes the layout line of the board as it stands, with CR LF, replacing the
+// file through a temporary file. False when it cannot be written.
+bool WriteLayoutFile(const Game& g, const std::string& path);
+
+// Reads the first line of a layout file onto a fresh board and sets every
+// SquareWeight to 10. Returns true when it failed: the file cannot be read,
+// or its board is wider or higher than 14.
+bool ReadLayoutFile(Game& g, const std::string& path);
+
+// The same for a layout line already in hand.
+bool ApplyLayoutLine(Game& g, const std::string& line);
+
+}  // namespace jv

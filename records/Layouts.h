@@ -1,0 +1,22 @@
+#pragma once
+#include <string>
+
+#include "core/Game.h"
+
+namespace jv {
+
+// The one way every game begins: reads the layout, and on success starts a
+// new game on it; on failure reports it and loads the previous layout again.
+void LoadLayout(Game& g, const std::string& path);
+
+// Shows the part of LayoutFile after its last folder separator as the
+// layout caption, with the whole name as tool tip.
+void ShowLayoutName(Game& g);
+
+// The load (cmdload), save (cmdsave) and reset (cmdreset) commands; each does
+// nothing while the layout editor is on.
+void LoadCommand(Game& g);
+void SaveCommand(Game& g);
+void ResetCommand(Game& g);
+
+}  // namespace jv

@@ -1,0 +1,17 @@
+#pragma once
+#include <string>
+
+#include "core/Game.h"
+
+namespace jv {
+
+// "moveslogfile" MMDDhhmm ".txt" for the given moment.
+std::string MovesLogFileName(const ClockReading& now);
+
+// The recording switch Check2 after the user has changed it to ticked.
+void RecordingSwitch(Game& g, bool ticked);
+
+// The replay command (cmdloadlog).
+void ReplayCommand(Game& g);
+
+}  // namespace jv

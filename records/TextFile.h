@@ -1,0 +1,34 @@
+#pragma once
+#include <string>
+#include <vector>
+
+#include "core/Game.h"
+
+namespace jv {
+
+// True when the name holds a folder separator ("\" or "/").
+bool HasFolder(const std::string& name);
+
+// A file name as the program opens it: a name without a folder is taken from
+// the program's folder.
+std::string InProgramFolder(const Game& g, const std::string& name);
+
+// Reads the first line of a file (without its line end). False when the file
+// cannot be opened or read.
+bool ReadFirstLine(const std::string& path, std::string& line);
+
+// Reads every line of a file (CR LF or LF alone). False when the file cannot
+// be opened or read.
+bool ReadLines(const std::string& path, std::vector<std::string>& lines);
+
+// Replaces a file's content through a temporary file and a rename, so the
+// previous content stays whole when the write fails. False on failure.
+bool WriteFileAtomically(const std::string& path, const std::string& content);
+
+// Appends one line and CR LF to a file, creating it. False on failure.
+bool AppendLine(const std::string& path, const std::string& line);
+
+// Lines joined with CR LF after each.
+std::string JoinLines(const std::vector<std::string>& lines);
+
+}  // namespace jv

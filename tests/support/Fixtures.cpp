@@ -1,0 +1,81 @@
+#include "support/Fixtures.h"
+
+#include <atomic>
+#include <fstream>
+#include <sstream>
+#include <unistd.h>
+
+#include "core/Analysis.h"
+#include "core/Board.h"
+
+namespace jv::test {
+
+namespace fs = std::filesystem;
+
+TestGame::TestGame() {
+    static std::atomic<int> counter{0};
+    folder = fs::temp_directory_path() /
+             ("jarlsvakt-test-" + std::to_string(::getpid()) + "-" + std::to_string(counter++));
+    fs::remove_all(folder);
+    fs::create_directories(folder);
+    g.ProgramFolder = folder.string() + "/";
+    g.View = &view;
+    BuildColumnLetters(g);
+}
+
+TestGame::~TestGame() {
+    std::error_code ec;
+    fs::remove_all(folder, ec);
+}
+
+void TestGame::CopyData(const std::string& name) {
+    const fs::path source(JARLSVAKT_DATA_DIR);
+    if (!name.empty()) {
+        fs::copy_file(source / name, folder / name, fs::copy_options::overwrite_existing);
+        return;
+    }
+    for (const auto& entry : fs::directory_iterator(source))
+        fs::copy_file(entry.path(), folder / entry.path().filename(), fs::copy_options::overwrite_existing);
+}
+
+std::string TestGame::WriteFile(const std::string& name, const std::string& content) {
+    const std::string path = Path(name);
+    std::ofstream(path, std::ios::binary) << content;
+    return path;
+}
+
+std::string TestGame::ReadFile(const std::string& name) const {
+    std::ifstream in(Path(name), std::ios::binary);
+    std::ostringstream text;
+    text << in.rdbuf();
+    return text.str();
+}
+
+std::string TestGame::Path(const std::string& name) const { return (folder / name).string(); }
+
+void PlacePieces(Game& g, int width, int height, std::initializer_list<const char*> cols) {
+    NewBoard(g, width, height);
+    int col = 0;
+    for (const char* text : cols) {
+        ++col;
+        for (int row = 1; row <= height && text[row - 1] != '\0'; ++row) {
+            if (IsCorner(g, col, row)) continue;
+            switch (text[row - 1]) {
+                case 'd': g.Board(col, row) = DefenderCode; break;
+                case 'a': g.Board(col, row) = AttackerCode; break;
+                case 'K':
+                    g.Board(col, row) = DefenderCode;
+                    g.KingCol = col;
+                    g.KingRow = row;
+                    break;
+                default: g.Board(col, row) = EmptyCode; break;
+            }
+        }
+    }
+    AnalysePosition(g);
+}
+
+std::string DataPath(const std::string& name) { return std::string(JARLSVAKT_DATA_DIR) + "/" + name; }
+std::string TestDataPath(const std::string& name) { return std::string(JARLSVAKT_TEST_DATA_DIR) + "/" + name; }
+
+}  // namespace jv::test

@@ -1,0 +1,104 @@
+#include "support/RecordingView.h"
+
+namespace jv::test {
+
+namespace {
+std::string Join(std::initializer_list<int> numbers) {
+    std::string out;
+    for (int n : numbers) out += " " + std::to_string(n);
+    return out;
+}
+const char* ListName(ListId list) {
+    switch (list) {
+        case ListId::List1A: return "List1A";
+        case ListId::List2A: return "List2A";
+        case ListId::List3: return "List3";
+        case ListId::List1: return "List1";
+        case ListId::List1D: return "List1D";
+        case ListId::List2D: return "List2D";
+        case ListId::AttackerMovesRank: return "AttackerMovesRank";
+        case ListId::DefenderMovesRank: return "DefenderMovesRank";
+        case ListId::Undo: return "Undo";
+    }
+    return "?";
+}
+}  // namespace
+
+std::vector<std::string> RecordingView::CallsStartingWith(const std::string& prefix) const {
+    std::vector<std::string> out;
+    for (const std::string& c : Calls)
+        if (c.rfind(prefix, 0) == 0) out.push_back(c.substr(prefix.size()));
+    return out;
+}
+
+void RecordingView::DrawBoard() { Calls.push_back("DrawBoard"); }
+void RecordingView::DrawSquare(int col, int row, std::int32_t colour) {
+    Calls.push_back("DrawSquare" + Join({col, row, colour}));
+}
+void RecordingView::DrawPiece(int col, int row, int drawCode) {
+    Calls.push_back("DrawPiece" + Join({col, row, drawCode}));
+}
+void RecordingView::DrawMoveMark(int fromCol, int fromRow, int toCol, int toRow) {
+    Calls.push_back("DrawMoveMark" + Join({fromCol, fromRow, toCol, toRow}));
+}
+void RecordingView::MarkVictim(int col, int row) { Calls.push_back("MarkVictim" + Join({col, row})); }
+void RecordingView::ShowDragLine(int fromCol, int fromRow, int toCol, int toRow) {
+    Calls.push_back("ShowDragLine" + Join({fromCol, fromRow, toCol, toRow}));
+}
+void RecordingView::HideDragLine() { Calls.push_back("HideDragLine"); }
+void RecordingView::PrintLine(const std::string& text, int colour, int background) {
+    Calls.push_back("PrintLine |" + text + "|" + Join({colour, background}));
+}
+void RecordingView::ClearLog() { Calls.push_back("ClearLog"); }
+void RecordingView::Pause(int ms) {
+    Calls.push_back("Pause" + Join({ms}));
+    if (OnEvents) OnEvents();
+}
+void RecordingView::DoEvents() {
+    Calls.push_back("DoEvents");
+    if (OnEvents) OnEvents();
+}
+int RecordingView::Show(const std::string& text, const std::string& style) {
+    Calls.push_back("Show " + text + " [" + style + "]");
+    if (Answers.empty()) return DefaultAnswer;
+    const int answer = Answers.front();
+    Answers.pop_front();
+    return answer;
+}
+void RecordingView::EnableBoard(bool enabled) {
+    BoardEnabled = enabled;
+    Calls.push_back(enabled ? "EnableBoard 1" : "EnableBoard 0");
+}
+void RecordingView::SetBusy(bool busy) {
+    Busy = busy;
+    Calls.push_back(busy ? "SetBusy 1" : "SetBusy 0");
+}
+void RecordingView::UpdateCounters(int defenders, int attackers) {
+    Defenders = defenders;
+    Attackers = attackers;
+}
+void RecordingView::ShowLayoutName(const std::string& caption, const std::string& toolTip) {
+    LayoutCaption = caption;
+    LayoutToolTip = toolTip;
+    Calls.push_back("ShowLayoutName " + caption + " | " + toolTip);
+}
+void RecordingView::RefreshList(ListId list) { Calls.push_back(std::string("RefreshList ") + ListName(list)); }
+void RecordingView::ShowEditor(bool visible) {
+    EditorVisible = visible;
+    Calls.push_back(visible ? "ShowEditor 1" : "ShowEditor 0");
+}
+std::string RecordingView::ChooseFile(FileMode mode, const std::string& title, const std::string& pattern,
+                                      const std::string& description) {
+    Calls.push_back(std::string("ChooseFile ") + (mode == FileMode::Open ? "OPEN" : "SAVE") + " " + title +
+                    " [" + pattern + "] " + description);
+    if (FileChoices.empty()) return "";
+    std::string name = FileChoices.front();
+    FileChoices.pop_front();
+    return name;
+}
+void RecordingView::EndProgram() {
+    Ended = true;
+    Calls.push_back("EndProgram");
+}
+
+}  // namespace jv::test
