@@ -16,6 +16,10 @@ int RunAnalyse(const Args& args);
 // the given view.
 void PrepareGame(Game& g, GameView& view);
 
+// A file named on the command line: as given when it exists from the current
+// folder, else taken from the program's folder like every name without a folder.
+std::string ResolveArgument(const Game& g, const std::string& name);
+
 // Reads a layout from a file name, or a layout line from standard input
 // when the name is "-". On failure prints "Error reading Layout File:" and
 // the name on standard error and returns false.

@@ -1,9 +1,11 @@
+#include <filesystem>
 #include <iostream>
 
 #include "cli/Commands.h"
 #include "core/Board.h"
 #include "records/LayoutFile.h"
 #include "records/ProgramFolder.h"
+#include "records/TextFile.h"
 
 namespace jv::cli {
 
@@ -11,6 +13,12 @@ void PrepareGame(Game& g, GameView& view) {
     g.View = &view;
     g.ProgramFolder = FindProgramFolder();
     BuildColumnLetters(g);
+}
+
+std::string ResolveArgument(const Game& g, const std::string& name) {
+    std::error_code ec;
+    if (std::filesystem::is_regular_file(name, ec)) return std::filesystem::absolute(name, ec).string();
+    return InProgramFolder(g, name);
 }
 
 bool ReadLayoutArgument(Game& g, const std::string& name) {
@@ -21,7 +29,7 @@ bool ReadLayoutArgument(Game& g, const std::string& name) {
         if (!line.empty() && line.back() == '\r') line.pop_back();
         if (!failed) failed = ApplyLayoutLine(g, line);
     } else {
-        failed = ReadLayoutFile(g, name);
+        failed = ReadLayoutFile(g, ResolveArgument(g, name));
     }
     if (failed) std::cerr << "Error reading Layout File:\n" << name << '\n';
     return !failed;
