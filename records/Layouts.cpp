@@ -1,0 +1,154 @@
+#include "records/Layouts.h"
+
+#include <filesystem>
+#include <system_error>
+
+#include "ai/SquareWeights.h"
+#include "core/Analysis.h"
+#include "core/Board.h"
+#include "core/EventLog.h"
+#include "core/GameView.h"
+#include "records/FileChoice.h"
+#include "records/LayoutFile.h"
+#include "records/TextFile.h"
+
+namespace jv {
+
+namespace {
+
+constexpr int Yes = 6;
+
+// Keeps LoadLayout's nesting depth for the length of one call.
+struct LoadDepth {
+    explicit LoadDepth(Game& game) : g(game) { ++g.LayoutLoadDepth; }
+    ~LoadDepth() { --g.LayoutLoadDepth; }
+    LoadDepth(const LoadDepth&) = delete;
+    LoadDepth& operator=(const LoadDepth&) = delete;
+    Game& g;
+};
+
+// A new game starts with no piece in hand: no drag under way and no square
+// under the pointer.
+void NewGameInitialisation(Game& g) {
+    g.DragSource = Square{};
+    g.PointerSquare = Square{};
+    g.DragLineVisible = false;
+    g.View->HideDragLine();
+}
+
+// Everything a successful load does after the file has been read, except
+// naming the file: the position is refreshed, the tables and counters start
+// again, the undo history, the editor and the event log are cleared.
+void StartGameOnBoard(Game& g) {
+    SetSquareWeights(g, 400);
+    g.TurnCounts = {0, 0};
+    SetHomeSquares(g, HomeCode);
+    g.Undo.clear();
+    g.View->RefreshList(ListId::Undo);
+    g.EditorOn = false;
+    g.View->ShowEditor(false);
+    ClearEventLog(g);
+    NewGameInitialisation(g);
+}
+
+void EnablePlay(Game& g) {
+    ShowLayoutName(g);
+    g.BoardEnabled = true;
+    g.View->EnableBoard(true);
+}
+
+// Neither the chosen layout nor the one before it can be read: rather than
+// trying the same file for ever, play goes on on an empty 11 by 11 board.
+void LoadEmptyBoard(Game& g, const std::string& previous) {
+    g.View->Show("Layout File:\r\n" + previous + "\r\ncould not be read either, an empty board is set up",
+                 "vbcritical+vbok");
+    NewBoard(g, 11, 11);
+    g.KingCol = 0;
+    g.KingRow = 0;
+    for (int col = -1; col <= 12; ++col)
+        for (int row = -1; row <= 12; ++row) g.SquareWeight(col, row) = 10;
+    AnalysePosition(g);
+    g.View->DrawBoard();
+    StartGameOnBoard(g);
+    PrintLog(g, "Empty board: no layout could be read", 0, 0);
+    EnablePlay(g);
+}
+
+// The file is there when its length can be read.
+bool FileHasLength(const std::string& path) {
+    std::error_code ec;
+    [[maybe_unused]] const auto length = std::filesystem::file_size(path, ec);
+    return !ec;
+}
+
+// The name as the user typed it, with ".txt" added when its file name holds
+// no point.
+std::string WithExtension(const std::string& name) {
+    const std::size_t folderEnd = name.find_last_of("\\/");
+    const std::size_t nameStart = folderEnd == std::string::npos ? 0 : folderEnd + 1;
+    if (name.find('.', nameStart) != std::string::npos) return name;
+    return name + "." + "txt";
+}
+
+}  // namespace
+
+void LoadLayout(Game& g, const std::string& path) {
+    LoadDepth depth(g);
+    const std::string previous = g.LayoutFile;
+    if (ReadLayoutFile(g, InProgramFolder(g, path))) {
+        g.View->Show("Error reading Layout File:\r\n" + path, "vbcritical+vbok");
+        g.View->DoEvents();
+        if (g.LayoutLoadDepth > 1) {
+            LoadEmptyBoard(g, previous);
+            return;
+        }
+        LoadLayout(g, previous);
+        return;
+    }
+    AnalysePosition(g);
+    g.View->DrawBoard();
+    g.LayoutFile = path;
+    StartGameOnBoard(g);
+    PrintLog(g, "Loaded Layout: " + path, 0, 0);
+    EnablePlay(g);
+}
+
+void ShowLayoutName(Game& g) {
+    const std::size_t folderEnd = g.LayoutFile.find_last_of("\\/");
+    const std::string caption =
+        folderEnd == std::string::npos ? g.LayoutFile : g.LayoutFile.substr(folderEnd + 1);
+    g.View->ShowLayoutName(caption, g.LayoutFile);
+}
+
+void LoadCommand(Game& g) {
+    if (g.EditorOn) return;
+    const std::string name = ChooseGameFile(g, FileMode::Open, "Select an input file to load");
+    if (name.empty()) return;
+    LoadLayout(g, name);
+    // Shown after a failed load too: the failure has been reported and the
+    // previous layout is back.
+    g.View->Show("Layout loaded from file:\r\n" + name, "vbinformation+vbok");
+}
+
+void SaveCommand(Game& g) {
+    if (g.EditorOn) return;
+    std::string name = ChooseGameFile(g, FileMode::Save, "Select an output file to save");
+    if (name.empty()) return;
+    name = WithExtension(name);
+    const std::string path = InProgramFolder(g, name);
+    if (FileHasLength(path) && g.View->Show(name + "\r\nOverWrite file?", "vbYesNo+vbquestion") != Yes) return;
+    // The old file is replaced only once the new one is whole on disk, so a
+    // failed write leaves it as it was.
+    if (!WriteLayoutFile(g, path)) {
+        g.View->Show("Layout File:\r\n" + name + "\r\ncould not be written, game not saved", "vbcritical+vbok");
+        return;
+    }
+    g.View->Show("Game saved to file:\r\n" + name, "vbinformation+vbok");
+}
+
+void ResetCommand(Game& g) {
+    if (g.EditorOn) return;
+    if (g.View->Show("Reset layout?", "vbquestion+vbyesno") == Yes) LoadLayout(g, g.LayoutFile);
+}
+
+}  // namespace jv
