@@ -31,6 +31,10 @@ void NewBoard(Game& g, int width, int height) {
             g.Board(col, row) = frame ? HomeCode : EmptyCode;
         }
     SetHomeSquares(g, HomeCode);
+    // The analysis clears only the board and its margin; a smaller board
+    // must not inherit the lists of a larger one.
+    for (int col = Grid<int>::Low; col <= Grid<int>::High; ++col)
+        for (int row = Grid<int>::Low; row <= Grid<int>::High; ++row) g.MoveTargets(col, row).clear();
 
     g.DragLineVisible = false;
     g.DragSource = Square{};

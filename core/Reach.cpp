@@ -4,23 +4,46 @@
 
 namespace jv {
 
-void AppendReach(const Game& g, int col, int row, char direction, std::string& out) {
-    int dc = 0, dr = 0, steps = 0;
+namespace {
+
+struct Step {
+    int dc, dr;
+};
+
+// The step of a direction letter and how many squares lie ahead of (col, row)
+// before the board's edge; false for a letter that is no direction.
+bool DirectionStep(const Game& g, int col, int row, char direction, Step& step, int& squares) {
     switch (direction) {
-        case 'U': case 'u': dc = -1; steps = col - 1; break;
-        case 'D': case 'd': dc = 1; steps = g.BoardWidth - col; break;
-        case 'L': case 'l': dr = -1; steps = row - 1; break;
-        case 'R': case 'r': dr = 1; steps = g.BoardHeight - row; break;
-        default: return;
+        case 'U': case 'u': step = {-1, 0}; squares = col - 1; return true;
+        case 'D': case 'd': step = {1, 0}; squares = g.BoardWidth - col; return true;
+        case 'L': case 'l': step = {0, -1}; squares = row - 1; return true;
+        case 'R': case 'r': step = {0, 1}; squares = g.BoardHeight - row; return true;
+        default: return false;
     }
-    int c = col, r = row;
-    for (int i = 0; i < steps; ++i) {
-        c += dc;
-        r += dr;
-        if (g.Board(c, r) != EmptyCode) return;
-        AppendSquareText(out, c, r);
-        out += ',';
+}
+
+// Walks from (col, row) over empty squares, appending each as a square item
+// and calling mark(c, r) for it.
+template <typename Mark>
+void Walk(const Game& g, int col, int row, char direction, std::string& out, Mark mark) {
+    Step step;
+    int squares;
+    if (!DirectionStep(g, col, row, direction, step, squares)) return;
+    for (int i = 0; i < squares; ++i) {
+        col += step.dc;
+        row += step.dr;
+        if (g.Board(col, row) != EmptyCode) return;
+        const char item[5] = {static_cast<char>('0' + col / 10), static_cast<char>('0' + col % 10),
+                              static_cast<char>('0' + row / 10), static_cast<char>('0' + row % 10), ','};
+        out.append(item, 5);
+        mark(col, row);
     }
+}
+
+}  // namespace
+
+void AppendReach(const Game& g, int col, int row, char direction, std::string& out) {
+    Walk(g, col, row, direction, out, [](int, int) {});
 }
 
 std::string ReachInDirection(const Game& g, int col, int row, char direction) {
@@ -31,29 +54,23 @@ std::string ReachInDirection(const Game& g, int col, int row, char direction) {
 
 void BuildReachTables(Game& g) {
     const int w = g.BoardWidth, h = g.BoardHeight;
-    for (int col = -1; col <= MaxBoardSide + 1; ++col)
-        for (int row = -1; row <= MaxBoardSide + 1; ++row) g.MoveTargets(col, row).clear();
+    for (int col = -1; col <= w + 1; ++col)
+        for (int row = -1; row <= h + 1; ++row) g.MoveTargets(col, row).clear();
     g.ReachMap[0].Fill(0);
     g.ReachMap[1].Fill(0);
 
     for (int col = 1; col <= w; ++col)
         for (int row = 1; row <= h; ++row) {
-            if (g.Board(col, row) == EmptyCode) continue;
-            std::string& targets = g.MoveTargets(col, row);
-            for (char d : {'U', 'D', 'L', 'R'}) AppendReach(g, col, row, d, targets);
-        }
-
-    for (int col = 1; col <= w; ++col)
-        for (int row = 1; row <= h; ++row) {
             const int code = g.Board(col, row);
-            if (code < 0) continue;
-            const std::string& targets = g.MoveTargets(col, row);
-            // Every entry is exactly four digits and a comma.
-            for (std::size_t i = 0; i + 4 < targets.size(); i += 5) {
-                const int c = (targets[i] - '0') * 10 + (targets[i + 1] - '0');
-                const int r = (targets[i + 2] - '0') * 10 + (targets[i + 3] - '0');
-                g.ReachMap[code](c, r) = 1;
-            }
+            if (code == EmptyCode) continue;
+            std::string& targets = g.MoveTargets(col, row);
+            // The Home corners get their lists too, but mark no side's reach.
+            auto& reach = g.ReachMap[code == AttackerCode ? 1 : 0];
+            const bool piece = code >= 0;
+            for (char d : {'U', 'D', 'L', 'R'})
+                Walk(g, col, row, d, targets, [&](int c, int r) {
+                    if (piece) reach(c, r) = 1;
+                });
         }
 }
 
