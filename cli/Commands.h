@@ -1,4 +1,5 @@
 #pragma once
+#include <iosfwd>
 #include <string>
 #include <vector>
 
@@ -11,6 +12,8 @@ namespace jv::cli {
 using Args = std::vector<std::string>;
 
 int RunAnalyse(const Args& args);
+int RunLayout(const Args& args);
+int RunReplay(const Args& args);
 
 // Prepares a game for a command: the program's folder, the column letters,
 // the given view.
@@ -24,5 +27,9 @@ std::string ResolveArgument(const Game& g, const std::string& name);
 // when the name is "-". On failure prints "Error reading Layout File:" and
 // the name on standard error and returns false.
 bool ReadLayoutArgument(Game& g, const std::string& name);
+
+// The board as a grid: a line of row numbers, then one line per Col with its
+// letter: H Home, . empty, d defender, K King, a attacker.
+void PrintGrid(const Game& g, std::ostream& out);
 
 }  // namespace jv::cli

@@ -16,6 +16,8 @@ const std::map<std::string, Command>& Commands() {
     using namespace jv::cli;
     static const std::map<std::string, Command> commands = {
         {"analyse", {RunAnalyse, "analyse FILE|-      print the analysis of a layout"}},
+        {"layout", {RunLayout, "layout FILE|-       print a layout line and its board"}},
+        {"replay", {RunReplay, "replay LOGFILE      print every position of a moves log"}},
     };
     return commands;
 }
