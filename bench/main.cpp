@@ -2,6 +2,7 @@
 #include <string>
 #include <vector>
 
+#include "BenchPerft.h"
 #include "Timing.h"
 #include "core/Analysis.h"
 #include "core/Board.h"
@@ -38,5 +39,6 @@ int main() {
         }
         bench::Report("AnalysePosition", p.name, bench::MedianMicros([&] { AnalysePosition(g); }));
     }
+    if (!bench::BenchPerft()) return 2;
     return 0;
 }

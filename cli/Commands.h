@@ -14,6 +14,7 @@ using Args = std::vector<std::string>;
 int RunAnalyse(const Args& args);
 int RunLayout(const Args& args);
 int RunReplay(const Args& args);
+int RunPerft(const Args& args);
 
 // Prepares a game for a command: the program's folder, the column letters,
 // the given view.

@@ -18,6 +18,7 @@ const std::map<std::string, Command>& Commands() {
         {"analyse", {RunAnalyse, "analyse FILE|-      print the analysis of a layout"}},
         {"layout", {RunLayout, "layout FILE|-       print a layout line and its board"}},
         {"replay", {RunReplay, "replay LOGFILE      print every position of a moves log"}},
+        {"perft", {RunPerft, "perft FILE|- DEPTH [--side attackers|defenders]  count the move sequences"}},
     };
     return commands;
 }

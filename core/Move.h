@@ -23,4 +23,9 @@ void MakeAttackerMove(Game& g, int fromCol, int fromRow, int toCol, int toRow);
 void MakeDefenderMove(Game& g, int fromCol, int fromRow, int toCol, int toRow);
 void DropPiece(Game& g, int col, int row);
 
+// The drag line and its marker: one line serves the user's drag and the
+// computer's move animation.
+void ShowDragLine(Game& g, int fromCol, int fromRow, int toCol, int toRow);
+void HideDragLine(Game& g);
+
 }  // namespace jv

@@ -1,11 +1,20 @@
 #pragma once
+#include <functional>
+
 #include "core/Game.h"
 
 namespace jv {
 
+// The configuration file read at start-up and written by the exit command.
+inline constexpr const char* ConfigurationFile = "jarlsvakt.cfg";
+
 // Brings the game up in the start-up order. False when "all.col" is missing:
 // the message has been shown and the program ends.
 bool StartUp(Game& g);
+// The same, with the window's own set-up (applying the colours, building the
+// board images) run once the configuration and the colour scheme are read and
+// before the layout is loaded.
+bool StartUp(Game& g, const std::function<void()>& applySettings);
 
 // True once a game has ended (the King captured or at Home): the board no
 // longer takes pointer input until the next layout is loaded.

@@ -1,0 +1,36 @@
+#include "BenchPerft.h"
+
+#include <cstdio>
+#include <string>
+
+#include "Timing.h"
+#include "core/Board.h"
+#include "core/Perft.h"
+#include "records/LayoutFile.h"
+#include "support/RecordingView.h"
+
+namespace jv::bench {
+
+bool BenchPerft() {
+    const std::string path = std::string(JARLSVAKT_DATA_DIR) + "/patf.txt";
+    test::RecordingView view;
+    Game g;
+    g.View = &view;
+    BuildColumnLetters(g);
+    if (ReadLayoutFile(g, path)) {
+        std::printf("cannot read %s\n", path.c_str());
+        return false;
+    }
+    for (int depth : {3, 4}) {
+        std::uint64_t leaves = 0;
+        const double micros = MedianMicros([&] { leaves = Perft(g, depth, DefenderCode); }, depth == 3 ? 11 : 5, 1);
+        char what[32];
+        std::snprintf(what, sizeof what, "Perft depth %d", depth);
+        Report(what, "patf.txt (11x11)", micros);
+        std::printf("%-28s %-22s %12llu leaves, %.1f million leaves per second\n", "", "",
+                    static_cast<unsigned long long>(leaves), leaves / micros);
+    }
+    return true;
+}
+
+}  // namespace jv::bench

@@ -1,0 +1,94 @@
+#include "core/Pointer.h"
+
+#include <string_view>
+
+#include "core/Board.h"
+#include "core/Move.h"
+
+namespace jv {
+
+namespace {
+
+bool InPlay(const Game& g, int col, int row) {
+    return col >= 1 && col <= g.BoardWidth && row >= 1 && row <= g.BoardHeight;
+}
+
+bool IsKingSquare(const Game& g, int col, int row) { return col == g.KingCol && row == g.KingRow; }
+
+// True when the target list holds the square's item at an item boundary.
+bool ListsSquare(std::string_view targets, int col, int row) {
+    const std::string item = SquareText(col, row);
+    for (std::size_t i = 0; i + item.size() <= targets.size(); i += item.size() + 1)
+        if (targets.compare(i, item.size(), item) == 0) return true;
+    return false;
+}
+
+// True when (col, row) is a Home corner that stops one of the straight lines
+// of empty squares leading out of the King's square.
+bool KingReachesHome(const Game& g, int col, int row) {
+    if (!IsCorner(g, col, row) || g.Board(col, row) != HomeCode) return false;
+    static constexpr int Steps[4][2] = {{-1, 0}, {1, 0}, {0, -1}, {0, 1}};
+    for (const auto& step : Steps) {
+        int c = g.KingCol + step[0], r = g.KingRow + step[1];
+        while (InPlay(g, c, r) && g.Board(c, r) == EmptyCode) {
+            c += step[0];
+            r += step[1];
+        }
+        if (c == col && r == row) return true;
+    }
+    return false;
+}
+
+void CancelDrag(Game& g) {
+    HideDragLine(g);
+    g.DragSource = Square{};
+}
+
+}  // namespace
+
+bool CanStartDrag(const Game& g, int col, int row) {
+    return g.BoardEnabled && InPlay(g, col, row) && g.Board(col, row) == DefenderCode;
+}
+
+bool BeginDrag(Game& g, int col, int row) {
+    if (!CanStartDrag(g, col, row)) return false;
+    g.DragSource = Square{col, row};
+    ShowDragLine(g, col, row, col, row);
+    return true;
+}
+
+bool AcceptsDrop(const Game& g, int col, int row) {
+    const Square source = g.DragSource;
+    if (!g.BoardEnabled || !InPlay(g, source.Col, source.Row) || !InPlay(g, col, row)) return false;
+    if (ListsSquare(g.MoveTargets(source.Col, source.Row), col, row)) return true;
+    return IsKingSquare(g, source.Col, source.Row) && KingReachesHome(g, col, row);
+}
+
+bool EndDrag(Game& g, int col, int row) {
+    if (g.DragSource.Col == -1) return false;
+    if (!AcceptsDrop(g, col, row)) {
+        CancelDrag(g);
+        return false;
+    }
+    const Square source = g.DragSource;
+    g.PointerSquare = Square{col, row};
+    DropPiece(g, col, row);
+    // The drag is over unless another one began while the move's pauses let
+    // events run.
+    if (g.DragSource.Col == source.Col && g.DragSource.Row == source.Row && !g.DragLineVisible)
+        g.DragSource = Square{};
+    return true;
+}
+
+std::string PointerHint(const Game& g, int col, int row) {
+    if (!InPlay(g, col, row)) return "";
+    const char* what = "empty";
+    const int code = g.Board(col, row);
+    if (IsKingSquare(g, col, row) && code == DefenderCode) what = "King";
+    else if (code == DefenderCode) what = "defender";
+    else if (code == AttackerCode) what = "attacker";
+    else if (code == HomeCode) what = "Home";
+    return SquareName(g, col, row) + ": " + what;
+}
+
+}  // namespace jv

@@ -1,0 +1,73 @@
+#include "core/Session.h"
+
+#include "ai/AutoMove.h"
+#include "core/Board.h"
+#include "core/EventLog.h"
+#include "core/GameView.h"
+#include "records/ColourScheme.h"
+#include "records/Configuration.h"
+#include "records/Layouts.h"
+#include "records/ProgramFolder.h"
+#include "records/TextFile.h"
+
+namespace jv {
+
+namespace {
+
+void EndProgram(Game& g) {
+    g.Ending = true;
+    g.View->EndProgram();
+}
+
+}  // namespace
+
+bool StartUp(Game& g) { return StartUp(g, {}); }
+
+bool StartUp(Game& g, const std::function<void()>& applySettings) {
+    g.Check1 = true;   // automatic replies are on from the start
+    if (g.ProgramFolder.empty()) g.ProgramFolder = FindProgramFolder();
+
+    if (!FileExists(InProgramFolder(g, "all.col"))) {
+        g.View->Show("File: all.col is missing\r\nProgram cannot run without this file", "vbok+vbcritical");
+        g.View->DoEvents();
+        EndProgram(g);
+        return false;
+    }
+
+    g.PictureFiles = {"player00.ico", "player10.ico", "home0.ico", "king0.ico"};
+    BuildColumnLetters(g);
+    g.SchemeFile = "xp.col";
+    ReadConfiguration(g, ConfigurationFile);
+    LoadColourScheme(g, g.SchemeFile);
+    if (applySettings) applySettings();
+
+    LoadLayout(g, g.LayoutFile);
+    // The defenders, the user's side, move first.
+    PrintLog(g, "  Player1 to move ...", 1, 0);
+    return true;
+}
+
+bool GameFinished(const Game& g) { return !g.BoardEnabled; }
+
+void AutoGame(Game& g) {
+    // Runs on after a game has ended: only the program's end stops it, and
+    // the program ends at once, even between the two moves of a round.
+    while (!g.Ending) {
+        g.View->DoEvents();
+        if (g.Ending) return;
+        MakeGreenAutoMove(g);
+        if (g.Ending) return;
+        MakeRedAutoMove(g);
+    }
+}
+
+bool ExitCommand(Game& g) {
+    if (g.View->Show("Exit?", "vbQuestion + vbYesNo") != 6) return false;
+    // A configuration that cannot be written is reported and the program
+    // still ends.
+    WriteConfiguration(g, ConfigurationFile);
+    EndProgram(g);
+    return true;
+}
+
+}  // namespace jv
