@@ -4,7 +4,6 @@
 
 #include "core/GameView.h"
 #include "core/VbText.h"
-#include "records/Configuration.h"
 #include "records/TextFile.h"
 
 namespace jv {
@@ -52,8 +51,6 @@ std::int32_t Rgb32(const Rgb& c) {
 }
 
 }  // namespace
-
-bool ColourFileExists(const Game& g) { return FileExists(ColourFile(g)); }
 
 std::vector<std::string> FillSchemeList(const Game& g) {
     std::vector<std::string> lines, names;

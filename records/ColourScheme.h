@@ -6,10 +6,6 @@
 
 namespace jv {
 
-// True when the colour-scheme file "all.col" is in the program's folder;
-// the program cannot run without it.
-bool ColourFileExists(const Game& g);
-
 // The names of the schemes in "all.col", in file order ("xp.col" as "xp").
 std::vector<std::string> FillSchemeList(const Game& g);
 

@@ -9,11 +9,8 @@ std::string ChooseGameFile(Game& g, FileMode mode, const std::string& title) {
     namespace fs = std::filesystem;
     std::error_code remembered;
     const fs::path before = fs::current_path(remembered);
-    // The dialog starts in the current folder; a folder that cannot be
-    // entered leaves the dialog where it was.
-    std::error_code ignored;
-    fs::current_path(g.ProgramFolder, ignored);
     std::string name = g.View->ChooseFile(mode, title, "*.txt", "Game Files");
+    std::error_code ignored;
     if (!remembered) fs::current_path(before, ignored);
     return name;
 }
