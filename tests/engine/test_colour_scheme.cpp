@@ -4,8 +4,10 @@
 
 #include "records/ColourScheme.h"
 #include "support/Fixtures.h"
+#include "support/RandomText.h"
 
 using namespace jv;
+using jv::test::RandomText;
 using jv::test::TestGame;
 
 namespace {
@@ -102,9 +104,7 @@ TEST(ColourScheme, RandomBytesNeverCrash) {
     std::mt19937 random(777);
     const std::string alphabet = "0123456789;;;\r\n\n-.xp.col ";
     for (int round = 0; round < 300; ++round) {
-        std::string bytes(random() % 500, '\0');
-        for (char& c : bytes)
-            c = round % 2 ? static_cast<char>(random() % 256) : alphabet[random() % alphabet.size()];
+        std::string bytes = RandomText(random, round, 500, alphabet);
         if (round % 3 == 0) bytes = "xp.col\r\n" + bytes;
         t.WriteFile("all.col", bytes);
         FillSchemeList(g);

@@ -5,8 +5,10 @@
 
 #include "records/Configuration.h"
 #include "support/Fixtures.h"
+#include "support/RandomText.h"
 
 using namespace jv;
+using jv::test::RandomText;
 using jv::test::TestGame;
 
 namespace {
@@ -133,9 +135,7 @@ TEST(Configuration, RandomBytesNeverCrashAndLeaveTheDefaults) {
     std::mt19937 random(12345);
     const std::string alphabet = "0123456789 ,\"\r\n-+.abcXYZ\t\\/";
     for (int round = 0; round < 300; ++round) {
-        std::string bytes(random() % 400, '\0');
-        for (char& c : bytes)
-            c = round % 2 ? static_cast<char>(random() % 256) : alphabet[random() % alphabet.size()];
+        const std::string bytes = RandomText(random, round, 400, alphabet);
         t.WriteFile("jarlsvakt.cfg", bytes);
         UnusualSettings(g);
         ReadConfiguration(g, "jarlsvakt.cfg");

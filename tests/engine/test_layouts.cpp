@@ -15,9 +15,6 @@ using jv::test::RunCli;
 using jv::test::TestGame;
 
 namespace {
-const std::string Opening =
-    "11110606HEE11111EEHEEEEE1EEEEEEEEEEEEEEEE1EEEE0EEEE11EEE000EEE111E00000E111EEE000EEE11EEEE0EEEE1"
-    "EEEEEEEEEEEEEEEE1EEEEEHEE11111EEH";
 const std::string Small = "05050303HEEEHE1EEEEE0EEEEEEEHEEEH";
 
 // The calls from the last board redraw on.
@@ -81,7 +78,7 @@ TEST(LoadLayout, AFailedLoadReportsItAndBringsThePreviousLayoutBack) {
     EXPECT_EQ(t.view.Messages(), std::vector<std::string>{"Error reading Layout File:\r\nmissing.txt [vbcritical+vbok]"});
     EXPECT_EQ(t.view.Calls[1], "DoEvents");
     EXPECT_EQ(g.LayoutFile, "patf.txt");
-    EXPECT_EQ(LayoutLine(g), Opening);
+    EXPECT_EQ(LayoutLine(g) + "\r\n", t.ReadFile("patf.txt"));
     EXPECT_EQ(t.view.LayoutCaption, "patf.txt");
     EXPECT_EQ(g.EventLog, std::vector<std::string>{"Loaded Layout: patf.txt"});
     EXPECT_EQ(g.LayoutLoadDepth, 0);
@@ -268,7 +265,7 @@ TEST(CliLayout, PrintsTheLayoutLineAndTheBoardAsAGrid) {
     const auto r = RunCli("layout patf.txt", t.folder.string());
     ASSERT_EQ(r.exitCode, 0) << r.err;
     ASSERT_EQ(r.out.size(), 13u);
-    EXPECT_EQ(r.out[0], Opening);
+    EXPECT_EQ(r.out[0] + "\r\n", t.ReadFile("patf.txt"));
     EXPECT_EQ(r.out[1], "    1  2  3  4  5  6  7  8  9 10 11");
     EXPECT_EQ(r.out[2], "A   H  .  .  a  a  a  a  a  .  .  H");
     EXPECT_EQ(r.out[5], "D   a  .  .  .  .  d  .  .  .  .  a");
