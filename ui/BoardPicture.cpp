@@ -1,45 +1,129 @@
 #include "ui/BoardPicture.h"
 
 #include <QPainter>
-#include <algorithm>
+#include <QResizeEvent>
+
+#include "core/Reach.h"
+#include "ui/BoardPainter.h"
+#include "ui/ColourValue.h"
+#include "ui/Surface.h"
 
 namespace jv::ui {
 
-BoardPicture::BoardPicture(const Game& game, QWidget* parent) : QWidget(parent), game_(game) {
+BoardPicture::BoardPicture(Game& game, QWidget* parent) : QWidget(parent), g_(game) {
     setObjectName("Picture1");
+    setMouseTracking(true);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+bool BoardPicture::FitToWidget() {
+    const int labels = g_.ShowLabels != 0 ? 1 : 0;
+    if (width() == fittedWidth_ && height() == fittedHeight_ && labels == fittedLabels_ &&
+        !pixmap_.isNull() && geometry_.SquareSize > 0 && boardWidth_ == g_.BoardWidth &&
+        boardHeight_ == g_.BoardHeight)
+        return false;
+    fittedWidth_ = width();
+    fittedHeight_ = height();
+    fittedLabels_ = labels;
+    boardWidth_ = g_.BoardWidth;
+    boardHeight_ = g_.BoardHeight;
+    geometry_ = BuildBoardGeometry(width(), height(), g_.BoardWidth, g_.BoardHeight, labels != 0);
+    pixmap_ = QPixmap(std::max(1, width()), std::max(1, height()));
+    return true;
+}
+
+void BoardPicture::DrawBoard() {
+    pictures_.Load(g_);
+    FitToWidget();
+    ui::DrawBoard({g_, geometry_, pictures_, pixmap_});
+    update();
+}
+
+void BoardPicture::DrawSquare(int a, int b, const QColor& colour) {
+    if (FitToWidget()) return DrawBoard();
+    ui::DrawSquare({g_, geometry_, pictures_, pixmap_}, a, b, colour);
+    update();
+}
+
+void BoardPicture::DrawPiece(int a, int b, int drawCode) {
+    pictures_.Load(g_);
+    if (FitToWidget()) return DrawBoard();
+    ui::DrawPiece({g_, geometry_, pictures_, pixmap_}, a, b, drawCode);
+    update();
+}
+
+void BoardPicture::DrawMoveMark(int fromA, int fromB, int toA, int toB) {
+    if (FitToWidget()) DrawBoard();
+    ui::DrawMoveMark({g_, geometry_, pictures_, pixmap_}, fromA, fromB, toA, toB);
+    update();
+}
+
+void BoardPicture::MarkVictim(int a, int b) {
+    if (FitToWidget()) DrawBoard();
+    DrawSmallMark({g_, geometry_, pictures_, pixmap_}, a, b, MoveMarkColour(g_));
+    update();
+}
+
+QPoint BoardPicture::SquareCentre(int a, int b) const {
+    const int half = geometry_.SquareSize / 2;
+    return {ToPixels(geometry_.Left(a, b) + half), ToPixels(geometry_.Top(a, b) + half)};
+}
+
+void BoardPicture::ShowDragLine(int fromA, int fromB, int toA, int toB) {
+    lineVisible_ = true;
+    lineFrom_ = SquareCentre(fromA, fromB);
+    lineTo_ = SquareCentre(toA, toB);
+    markerAt_ = lineFrom_;
+    update();
+}
+
+void BoardPicture::HideDragLine() {
+    lineVisible_ = false;
+    update();
+}
+
+void BoardPicture::HighlightReach(int a, int b) {
+    const QColor reach = ToQColor(g_.ColourTable[11]);
+    ForEachSquareItem(g_.MoveTargets(a, b), [&](int col, int row) { DrawSquare(col, row, reach); });
+}
+
+void BoardPicture::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    if (g_.BoardWidth > 0 && FitToWidget()) DrawBoard();
 }
 
 void BoardPicture::paintEvent(QPaintEvent*) {
     QPainter p(this);
+    if (pixmap_.isNull() || pixmap_.size() != size()) p.fillRect(rect(), BoardBackColour(g_));
+    if (!pixmap_.isNull()) p.drawPixmap(0, 0, pixmap_);
+    PaintOverlay(p);
+}
+
+void BoardPicture::PaintOverlay(QPainter& p) {
+    const int side = ToPixels(geometry_.SquareSize);
+    if (hover_.Col != -1) {
+        // The square the carried piece would land on, in the lighter board colour.
+        const QPoint centre = SquareCentre(hover_.Col, hover_.Row);
+        QColor light = ToQColor(g_.ColourTable[3]);
+        light.setAlpha(170);
+        p.fillRect(QRect(centre.x() - side / 2 + 2, centre.y() - side / 2 + 2, side - 3, side - 3), light);
+    }
+    if (!lineVisible_) return;
     p.setRenderHint(QPainter::Antialiasing);
-    p.fillRect(rect(), QColor(222, 203, 160));
-    const int w = game_.BoardWidth, h = game_.BoardHeight;
-    if (w <= 0 || h <= 0) return;
-    // Col runs down the picture, Row across it.
-    const int side = std::max(1, std::min(width() / (h + 1), height() / (w + 1)));
-    const int left = side / 2, top = side / 2;
-    for (int col = 1; col <= w; ++col)
-        for (int row = 1; row <= h; ++row) {
-            const QRect box(left + (row - 1) * side, top + (col - 1) * side, side, side);
-            p.setPen(QColor(90, 60, 30));
-            p.setBrush(QColor(240, 226, 190));
-            p.drawRect(box);
-            const int code = game_.Board(col, row);
-            const QRect piece = box.adjusted(side / 8, side / 8, -side / 8, -side / 8);
-            if (col == game_.KingCol && row == game_.KingRow) {
-                p.setBrush(QColor(230, 190, 40));
-                p.drawEllipse(piece);
-            } else if (code == DefenderCode) {
-                p.setBrush(QColor(50, 180, 50));
-                p.drawEllipse(piece);
-            } else if (code == AttackerCode) {
-                p.setBrush(QColor(200, 30, 30));
-                p.drawEllipse(piece);
-            } else if (code == HomeCode) {
-                p.setBrush(QColor(130, 130, 130));
-                p.drawRect(piece);
-            }
-        }
+    const QColor dark = ToQColor(g_.ColourTable[5]);
+    p.setPen(QPen(dark, 3, Qt::SolidLine, Qt::RoundCap));
+    p.drawLine(lineFrom_, lineTo_);
+    const int diameter = side * 4 / 5;
+    const QRect marker(markerAt_.x() - diameter / 2, markerAt_.y() - diameter / 2, diameter, diameter);
+    if (dragging_ && carriedCode_ != -1) {
+        p.setOpacity(0.75);
+        p.drawImage(marker, pictures_.Picture(carriedCode_, marker.size()));
+        p.setOpacity(1.0);
+    }
+    p.setPen(QPen(dark, 2));
+    p.setBrush(Qt::NoBrush);
+    p.drawEllipse(marker);
 }
 
 }  // namespace jv::ui

@@ -1,22 +1,80 @@
 #pragma once
+#include <QPixmap>
+#include <QPoint>
 #include <QWidget>
 
 #include "core/Game.h"
+#include "ui/BoardGeometry.h"
+#include "ui/PiecePictures.h"
 
 namespace jv::ui {
 
-// The board picture, Picture1: paints the board of the game it is given.
+// The board picture, Picture1. The board is drawn into a retained pixmap
+// that the widget paints; the drag line and its marker lie over it and never
+// touch the pixmap. Pressing on a defender or the King starts a drag through
+// the game's pointer rules (see BoardPointer.cpp).
 class BoardPicture : public QWidget {
     Q_OBJECT
 public:
-    explicit BoardPicture(const Game& game, QWidget* parent = nullptr);
-    QSize sizeHint() const override { return {560, 560}; }
+    explicit BoardPicture(Game& game, QWidget* parent = nullptr);
+
+    QSize sizeHint() const override { return {600, 600}; }
+    QSize minimumSizeHint() const override { return {260, 260}; }
+
+    // The drawing operations, on the retained pixmap.
+    void DrawBoard();
+    void DrawSquare(int a, int b, const QColor& colour);
+    void DrawPiece(int a, int b, int drawCode);
+    void DrawMoveMark(int fromA, int fromB, int toA, int toB);
+    void MarkVictim(int a, int b);
+
+    // The line from the centre of one square to the centre of another, with
+    // the marker on its start.
+    void ShowDragLine(int fromA, int fromB, int toA, int toB);
+    void HideDragLine();
+    bool DragLineShown() const { return lineVisible_; }
+
+    const BoardGeometry& Geometry() const { return geometry_; }
+    const QPixmap& Pixmap() const { return pixmap_; }
+    // The centre of a square, in widget pixels.
+    QPoint SquareCentre(int a, int b) const;
+
+signals:
+    // The hint for the square under the pointer ("" off the board).
+    void HintChanged(const QString& hint);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void leaveEvent(QEvent* event) override;
 
 private:
-    const Game& game_;
+    // Rebuilds the geometry and the pixmap when the widget or the board
+    // changed size; true when it did.
+    bool FitToWidget();
+    Square SquareUnder(QPoint position) const;
+    void ShowHint(Square square);
+    void HighlightReach(int a, int b);
+    void PaintOverlay(QPainter& p);
+
+    Game& g_;
+    QPixmap pixmap_;
+    BoardGeometry geometry_;
+    PiecePictures pictures_;
+    int fittedWidth_ = -1, fittedHeight_ = -1, fittedLabels_ = -1;
+    int boardWidth_ = -1, boardHeight_ = -1;
+
+    // The drag line and its marker, in widget pixels.
+    bool lineVisible_ = false;
+    QPoint lineFrom_, lineTo_, markerAt_;
+    // A user drag in progress: the marker carries the piece and follows the pointer.
+    bool dragging_ = false;
+    int carriedCode_ = -1;
+    Square hover_;
+    Square hinted_;
 };
 
 }  // namespace jv::ui

@@ -1,34 +1,76 @@
 #include "ui/MainWindow.h"
 
+#include <QAction>
 #include <QApplication>
-#include <QMessageBox>
+#include <QCheckBox>
+#include <QCloseEvent>
+#include <QTimer>
 
-#include "core/Board.h"
-#include "records/LayoutFile.h"
-#include "records/ProgramFolder.h"
-#include "records/TextFile.h"
+#include "core/Session.h"
 #include "ui/BoardPicture.h"
+#include "ui/WindowColours.h"
 
 namespace jv::ui {
 
-MainWindow::MainWindow() {
-    setWindowTitle("JarlsVakt");
+namespace {
+const char* const ProgramName = "JarlsVakt";
+}
+
+MainWindow::MainWindow(const std::string& programFolder, QWidget* parent) : QMainWindow(parent) {
     game_.View = this;
-    game_.ProgramFolder = FindProgramFolder();
-    BuildColumnLetters(game_);
-    picture_ = new BoardPicture(game_, this);
-    setCentralWidget(picture_);
-    if (ReadLayoutFile(game_, InProgramFolder(game_, game_.LayoutFile)))
-        Show("Error reading Layout File:\r\n" + game_.LayoutFile, "vbcritical+vbok");
+    game_.ProgramFolder = programFolder;
+    if (!game_.ProgramFolder.empty() && game_.ProgramFolder.back() != '/' && game_.ProgramFolder.back() != '\\')
+        game_.ProgramFolder += '/';
+    BuildWindow();
+    if (auto* about = findChild<QAction*>("mnuabout")) about->setText(QString("About ") + ProgramName);
+    ConnectCommands();
 }
 
-void MainWindow::DrawBoard() { picture_->update(); }
-
-int MainWindow::Show(const std::string& text, const std::string&) {
-    QMessageBox::information(this, "Message", QString::fromStdString(text));
-    return 1;
+MainWindow::~MainWindow() {
+    SetBusy(false);
+    // Nothing may reach the window while it is taken down.
+    game_.Ending = true;
 }
 
-void MainWindow::EndProgram() { QApplication::quit(); }
+bool MainWindow::Start() {
+    const bool ok = StartUp(game_, [this] { ApplyWindowColours(); });
+    if (!ok) return false;
+    SyncChecks();
+    DrawBoard();
+    return true;
+}
+
+void MainWindow::SyncChecks() {
+    check1_->setChecked(game_.Check1);
+    check2_->setChecked(game_.Check2);
+}
+
+void MainWindow::ApplyWindowColours() {
+    if (coloursApplied_ && appliedColours_ == game_.ColourTable) return;
+    coloursApplied_ = true;
+    appliedColours_ = game_.ColourTable;
+    ApplyColourTable(*this, game_.ColourTable);
+}
+
+void MainWindow::EndNow() {
+    if (ended_) return;
+    ended_ = true;
+    game_.Ending = true;
+    timer1_->stop();
+    SetBusy(false);
+    emit Ending();
+    close();
+    // Leaves every running event loop, the main one included.
+    QCoreApplication::exit(0);
+}
+
+void MainWindow::EndProgram() { EndNow(); }
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    // Closed by the window frame: the program ends at once, without the
+    // question and without writing the configuration.
+    event->accept();
+    EndNow();
+}
 
 }  // namespace jv::ui

@@ -1,47 +1,125 @@
 #pragma once
 #include <QMainWindow>
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <string>
 
 #include "core/Game.h"
 #include "core/GameView.h"
+#include "records/ProgramFolder.h"
+
+class QAction;
+class QCheckBox;
+class QGroupBox;
+class QLabel;
+class QListWidget;
+class QPushButton;
+class QTimer;
 
 namespace jv::ui {
 
 class BoardPicture;
+class LineList;
 
-// The main window: owns the game and shows it.
+// The main window: owns the game, shows it, and is the game's only way to
+// the screen. Every control carries the program's name for it as its
+// objectName (Picture1, cmdundo, Check1, List1A, EventLog, Timer1, ...).
 class MainWindow : public QMainWindow, public GameView {
     Q_OBJECT
 public:
-    MainWindow();
+    explicit MainWindow(const std::string& programFolder = FindProgramFolder(), QWidget* parent = nullptr);
+    ~MainWindow() override;
+
+    // Brings the game up. False when the program cannot run ("all.col" is
+    // missing): the message has been shown and the program has ended.
+    bool Start();
 
     Game& game() { return game_; }
+    BoardPicture* Board() const { return picture_; }
 
+    // When set, answers the message box in place of the modal MsgForm.
+    std::function<int(const std::string& text, const std::string& style)> Answerer;
+    // When set, chooses a file in place of the file dialog.
+    std::function<std::string(FileMode mode, const std::string& title)> FileChooser;
+    // When 0 or more, no pause lasts longer than this many milliseconds.
+    int PauseLimit = -1;
+
+    // True once the program has ended (the exit command, a fatal start-up
+    // message or the window closed by its frame).
+    bool Ended() const { return ended_; }
+
+    // The game's view.
     void DrawBoard() override;
-    void DrawSquare(int, int, std::int32_t) override { DrawBoard(); }
-    void DrawPiece(int, int, int) override { DrawBoard(); }
-    void DrawMoveMark(int, int, int, int) override {}
-    void MarkVictim(int, int) override {}
-    void ShowDragLine(int, int, int, int) override {}
-    void HideDragLine() override {}
-    void PrintLine(const std::string&, int, int) override {}
-    void ClearLog() override {}
-    void Pause(int) override {}
-    void DoEvents() override {}
+    void DrawSquare(int col, int row, std::int32_t colour) override;
+    void DrawPiece(int col, int row, int drawCode) override;
+    void DrawMoveMark(int fromCol, int fromRow, int toCol, int toRow) override;
+    void MarkVictim(int col, int row) override;
+    void ShowDragLine(int fromCol, int fromRow, int toCol, int toRow) override;
+    void HideDragLine() override;
+    void PrintLine(const std::string& text, int colour, int background) override;
+    void ClearLog() override;
+    void Pause(int ms) override;
+    void DoEvents() override;
     int Show(const std::string& text, const std::string& style) override;
-    void EnableBoard(bool) override {}
-    void SetBusy(bool) override {}
-    void UpdateCounters(int, int) override {}
-    void ShowLayoutName(const std::string&, const std::string&) override {}
-    void RefreshList(ListId) override {}
-    void ShowEditor(bool) override {}
-    std::string ChooseFile(FileMode, const std::string&, const std::string&, const std::string&) override {
-        return "";
-    }
+    void EnableBoard(bool enabled) override;
+    void SetBusy(bool busy) override;
+    void UpdateCounters(int defenders, int attackers) override;
+    void ShowLayoutName(const std::string& caption, const std::string& toolTip) override;
+    void RefreshList(ListId list) override;
+    void ShowEditor(bool visible) override;
+    std::string ChooseFile(FileMode mode, const std::string& title, const std::string& pattern,
+                           const std::string& description) override;
     void EndProgram() override;
 
+signals:
+    // The program is ending: running pauses stop at once.
+    void Ending();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
+    // The window's parts (MainWindowLayout.cpp).
+    void BuildWindow();
+    QWidget* BuildCommandColumn();
+    QWidget* BuildBoardArea();
+    QWidget* BuildListsColumn();
+    QWidget* BuildDebugPanel();
+    void BuildMenus();
+    QListWidget* AddList(ListId id, const char* name);
+    QPushButton* AddButton(const char* name, const QString& caption, const QString& toolTip);
+
+    // The commands (MainWindowCommands.cpp).
+    void ConnectCommands();
+    void ConnectDebugButtons();
+    void ShowHelp();
+    void ShowAbout();
+    void PreviewListMove(ListId list);
+
+    void ApplyWindowColours();
+    void SyncChecks();
+    void EndNow();
+
     Game game_;
-    BoardPicture* picture_;
+    BoardPicture* picture_ = nullptr;
+    QWidget* picture2_ = nullptr;
+    LineList* eventLog_ = nullptr;
+    std::map<ListId, QListWidget*> lists_;
+    QLabel* layoutName_ = nullptr;
+    std::array<QLabel*, 2> ptot_{};
+    QCheckBox* check1_ = nullptr;
+    QCheckBox* check2_ = nullptr;
+    QTimer* timer1_ = nullptr;
+    QGroupBox* debugPanel_ = nullptr;
+    QAction* debugToggle_ = nullptr;
+    bool ended_ = false;
+    bool busy_ = false;
+    bool previewing_ = false;
+    std::array<std::int32_t, 14> appliedColours_{};
+    bool coloursApplied_ = false;
 };
 
 }  // namespace jv::ui

@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QStyleFactory>
 #include <cstdlib>
 #include <iostream>
 
@@ -15,7 +16,12 @@ int main(int argc, char** argv) {
         return 1;
     }
     QApplication app(argc, argv);
+    QApplication::setApplicationName("JarlsVakt");
+    // One look on every desktop; the colour scheme paints it.
+    QApplication::setStyle(QStyleFactory::create("Fusion"));
     jv::ui::MainWindow window;
+    // Without "all.col" the program has said so and ends here.
+    if (!window.Start()) return 1;
     window.show();
     return app.exec();
 }

@@ -1,0 +1,156 @@
+#include "ui/BoardPainter.h"
+
+#include <QFont>
+#include <algorithm>
+#include <cmath>
+
+#include "core/VbText.h"
+#include "ui/ColourValue.h"
+#include "ui/Surface.h"
+
+namespace jv::ui {
+
+QColor BoardBackColour(const Game& g) { return ToQColor(g.ColourTable[2]); }
+QColor GridColour(const Game& g) { return ToQColor(g.ColourTable[4]); }
+QColor SquareColours(const Game& g, int drawCode) {
+    return ToQColor(g.ColourTable[6 + std::clamp(drawCode, 0, 3)]);
+}
+QColor MoveMarkColour(const Game& g) { return ToQColor(g.ColourTable[10]); }
+
+int DrawCode(const Game& g, int a, int b) {
+    const int code = g.Board(a, b);
+    int draw = -1;
+    if (code == DefenderCode) draw = 0;
+    if (code == AttackerCode) draw = 1;
+    if (code == HomeCode) draw = 2;
+    if (a == g.KingCol && b == g.KingRow) draw = 3;
+    return draw;
+}
+
+namespace {
+
+int Whole(double x) { return static_cast<int>(RoundHalfEven(x)); }
+
+// The box of one square in the board style; nothing for an unknown style.
+void PaintSquareBox(Surface& s, const BoardCanvas& c, int a, int b, const QColor& fill) {
+    const Game& g = c.g;
+    const int size = c.geometry.SquareSize;
+    const int x = c.geometry.Left(a, b), y = c.geometry.Top(a, b);
+    const int r = x + size - 20 * g.SquareGap, bottom = y + size - 20 * g.SquareGap;
+    const QColor grid = GridColour(g);
+    switch (g.BoardStyle) {
+        case 2:   // sunken: dark top and left, light right and bottom
+            s.FilledBox(x, y, r, bottom, fill);
+            s.Line(x, y, r, y, grid);
+            s.Line(x, y, x, bottom, grid);
+            s.Line(r, y, r, bottom, PaletteWhite());
+            s.Line(x, bottom, r, bottom, PaletteWhite());
+            break;
+        case 1:   // raised: light top and left, dark right and bottom
+            s.FilledBox(x, y, r, bottom, fill);
+            s.Line(x, y, r, y, PaletteWhite());
+            s.Line(x, y, x, bottom, PaletteWhite());
+            s.Line(r, y, r, bottom, grid);
+            s.Line(x, bottom, r, bottom, grid);
+            break;
+        case 0:   // flat: neighbours share their outline; the gap is ignored
+            s.FilledBox(x, y, x + size, y + size, fill);
+            s.Box(x, y, x + size, y + size, grid);
+            break;
+        default:
+            break;
+    }
+}
+
+void PaintPiece(Surface& s, const BoardCanvas& c, int a, int b, int code) {
+    const int size = c.geometry.SquareSize;
+    const int left = Whole(c.geometry.Left(a, b) + size / 8.0);
+    const int top = Whole(c.geometry.Top(a, b) + size / 8.0);
+    if (c.g.ColourMode != 1) {
+        // One eighth of margin on the top and left, one twenty-fourth on the
+        // right and bottom: the picture is not centred.
+        const int side = Whole(size - size / 6.0);
+        const QImage& image = c.pictures.Picture(code, QSize(ToPixels(side), ToPixels(side)));
+        s.PaintPicture(image, left, top, side, side);
+    } else {
+        const int extent = Whole(size - size / 4.0);
+        s.FilledBox(left, top, left + extent, top + extent, SquareColours(c.g, code));
+    }
+}
+
+void PrintLabels(Surface& s, const BoardCanvas& c) {
+    const Game& g = c.g;
+    const BoardGeometry& geo = c.geometry;
+    QFont font;
+    font.setPointSize(8);
+    font.setBold(false);
+    s.SetFont(font);
+    const int h = s.TextHeight("I");
+    const int d = Whole(h * 0.9);
+    const double size = geo.SquareSize;
+    for (int n = 1; n <= g.BoardHeight; ++n) {
+        const double x = geo.Left(1, n) + (n > 9 ? size / 6 : size / 2.5);
+        s.Print(Whole(x), Whole(geo.Top(1, 1) - 1.1 * d), QString::number(n), GridColour(g));
+    }
+    for (int n = 1; n <= g.BoardWidth; ++n) {
+        const double x = geo.Left(1, 1) - (n > 9 ? 1.5 * d : d);
+        s.Print(Whole(x), Whole(geo.Top(n, 1) + size / 3),
+                QString::fromStdString(g.ColumnLetters[std::clamp(n, 1, 16)]), GridColour(g));
+    }
+}
+
+}  // namespace
+
+void DrawBoard(const BoardCanvas& c) {
+    const Game& g = c.g;
+    Surface s(c.pixmap);
+    s.Clear(BoardBackColour(g));
+    s.SetLineWidth(c.geometry.GridLineWidth);
+    for (int a = 1; a <= g.BoardWidth; ++a)
+        for (int b = 1; b <= g.BoardHeight; ++b) {
+            const int code = DrawCode(g, a, b);
+            QColor fill = BoardBackColour(g);
+            if (g.ColourMode == 1 && code != -1) fill = SquareColours(g, code);
+            PaintSquareBox(s, c, a, b, fill);
+            if (g.ColourMode == 0 && code != -1) PaintPiece(s, c, a, b, code);
+        }
+    if (g.ShowLabels != 0) PrintLabels(s, c);
+}
+
+void DrawPiece(const BoardCanvas& c, int a, int b, int drawCode) {
+    Surface s(c.pixmap);
+    PaintPiece(s, c, a, b, drawCode);
+}
+
+void DrawSquare(const BoardCanvas& c, int a, int b, const QColor& colour) {
+    Surface s(c.pixmap);
+    s.SetLineWidth(c.geometry.GridLineWidth);
+    PaintSquareBox(s, c, a, b, colour);
+}
+
+void DrawMoveMark(const BoardCanvas& c, int fromA, int fromB, int toA, int toB) {
+    const BoardGeometry& geo = c.geometry;
+    const int size = geo.SquareSize, half = size / 2, quarter = size / 4;
+    // Moves run along a line or a column: dx, dy is the unit step (across, down).
+    const int dx = (toB > fromB) - (toB < fromB), dy = (toA > fromA) - (toA < fromA);
+    const int startX = geo.Left(fromA, fromB) + half, startY = geo.Top(fromA, fromB) + half;
+    // The line stops a quarter of a square inside the target, where a bar
+    // across the move's direction closes it.
+    const int endX = geo.Left(toA, toB) + half - dx * quarter;
+    const int endY = geo.Top(toA, toB) + half - dy * quarter;
+    Surface s(c.pixmap);
+    s.SetLineWidth(3);
+    s.Line(startX, startY, endX, endY, MoveMarkColour(c.g));
+    s.Line(endX - dy * quarter, endY - dx * quarter, endX + dy * quarter, endY + dx * quarter,
+           MoveMarkColour(c.g));
+    s.SetLineWidth(1);
+}
+
+void DrawSmallMark(const BoardCanvas& c, int a, int b, const QColor& colour) {
+    const int size = c.geometry.SquareSize;
+    const int x = c.geometry.Left(a, b) + size / 12, y = c.geometry.Top(a, b) + size / 12;
+    Surface s(c.pixmap);
+    s.FilledBox(x, y, x + size / 5, y + size / 5, colour);
+}
+
+}  // namespace jv::ui

@@ -1,0 +1,111 @@
+// What the window's buttons, boxes, lists and menu entries do: each hands
+// its command to the game.
+#include <QAction>
+#include <QCheckBox>
+#include <QEvent>
+#include <QListWidget>
+#include <QMouseEvent>
+#include <QPushButton>
+
+#include "ai/AttackerRank.h"
+#include "ai/AttackerTactics.h"
+#include "ai/AutoMove.h"
+#include "ai/DefenderRank.h"
+#include "ai/KingRoutes.h"
+#include "core/Session.h"
+#include "records/Layouts.h"
+#include "records/MovesLog.h"
+#include "records/Undo.h"
+#include "ui/MainWindow.h"
+#include "ui/widgets/HelpViewer.h"
+
+namespace jv::ui {
+
+void MainWindow::ConnectCommands() {
+    const auto onClick = [this](const char* name, auto command) {
+        connect(findChild<QPushButton*>(name), &QPushButton::clicked, this, command);
+    };
+    const auto onMenu = [this](const char* name, auto command) {
+        connect(findChild<QAction*>(name), &QAction::triggered, this, command);
+    };
+    onClick("cmdload", [this] { LoadCommand(game_); });
+    onClick("cmdsave", [this] { SaveCommand(game_); });
+    onClick("cmdreset", [this] { ResetCommand(game_); });
+    onClick("cmdundo", [this] { UndoCommand(game_); });
+    onClick("cmdloadlog", [this] { ReplayCommand(game_); });
+    onClick("cmdexit", [this] { ExitCommand(game_); });
+    onClick("Command12", [this] { AutoGame(game_); });
+    onMenu("mnuloadgame", [this] { LoadCommand(game_); });
+    onMenu("mnusavegame", [this] { SaveCommand(game_); });
+    onMenu("mnuresetgame", [this] { ResetCommand(game_); });
+    onMenu("mnuexit", [this] { ExitCommand(game_); });
+    onMenu("mnuhelp", [this] { ShowHelp(); });
+    onMenu("mnuabout", [this] { ShowAbout(); });
+
+    connect(check1_, &QCheckBox::toggled, this, [this](bool ticked) { game_.Check1 = ticked; });
+    // The recording switch acts when the user lets go of the box; while the
+    // layout editor is on it refuses, and the box shows what holds.
+    connect(check2_, &QCheckBox::clicked, this, [this](bool ticked) {
+        RecordingSwitch(game_, ticked);
+        check2_->setChecked(game_.Check2);
+    });
+    connect(lists_.at(ListId::Undo), &QListWidget::itemClicked, this, [this](QListWidgetItem* item) {
+        Undo_MouseUp(game_, lists_.at(ListId::Undo)->row(item));
+    });
+    for (ListId id : {ListId::List1A, ListId::List1D})
+        connect(lists_.at(id), &QListWidget::pressed, this, [this, id] { PreviewListMove(id); });
+    ConnectDebugButtons();
+}
+
+void MainWindow::ConnectDebugButtons() {
+    const auto onClick = [this](const char* name, auto command) {
+        connect(findChild<QPushButton*>(name), &QPushButton::clicked, this, command);
+    };
+    onClick("cmdGetAttackerRank", [this] { GetAttackerRank(game_); });
+    onClick("cmdMakeRedAutoMove", [this] { MakeRedAutoMove(game_); });
+    onClick("Command4", [this] { MakeGreenAutoMove(game_); });
+    onClick("cmdGetDefenderRank", [this] { GetDefenderRank(game_, 0); });
+    // The random movers' captions name the sides the other way round.
+    onClick("cmdGreenRandom", [this] { RandomMover(game_, AttackerCode); });
+    onClick("cmdRedRandom", [this] { RandomMover(game_, DefenderCode); });
+    onClick("cmdRedGreenRandom", [this] { RedGreenRandom(game_); });
+    onClick("cmdPathAroundKing", [this] { PathAroundKing(game_, DefenderCode, game_.KingCol, game_.KingRow); });
+    onClick("cmdRouteFromKing", [this] {
+        std::string route;
+        RouteFromKing(game_, route);
+    });
+}
+
+void MainWindow::PreviewListMove(ListId id) {
+    const std::vector<std::string>& lines = id == ListId::List1A ? game_.List1A : game_.List1D;
+    previewing_ = true;
+    jv::PreviewListMove(game_, lines, lists_.at(id)->currentRow());
+}
+
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (previewing_ && event->type() == QEvent::MouseButtonRelease) {
+        previewing_ = false;
+        EndListMovePreview(game_);
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+void MainWindow::ShowHelp() {
+    const std::string path = game_.ProgramFolder + "jarlsvakt.htm";
+    auto* viewer = findChild<HelpViewer*>();
+    if (viewer == nullptr) viewer = new HelpViewer(this);
+    if (!viewer->Open(QString::fromStdString(path))) {
+        Show("Help file not found:\r\n" + path, "vbcritical+vbok");
+        return;
+    }
+    viewer->show();
+    viewer->raise();
+}
+
+void MainWindow::ShowAbout() {
+    Show("JarlsVakt\r\n\r\nHnefatafl against the computer. You lead the defenders: bring the King to a "
+         "corner before the attackers surround him.",
+         "vbcustom+vbok");
+}
+
+}  // namespace jv::ui

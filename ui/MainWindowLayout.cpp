@@ -1,0 +1,259 @@
+// The arrangement of the main window: commands on the left, the board large
+// in the middle (with room for the layout editor's palette beside it), the
+// event log and the computer players' lists on the right, and the debug
+// buttons in a panel below that the View menu shows or hides.
+#include <QAction>
+#include <QCheckBox>
+#include <QFontDatabase>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QSplitter>
+#include <QStatusBar>
+#include <QTabWidget>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include "ui/BoardPicture.h"
+#include "ui/MainWindow.h"
+#include "ui/widgets/LineList.h"
+
+namespace jv::ui {
+
+namespace {
+
+// A list with a caption above it, as one widget.
+QWidget* Captioned(const QString& caption, QWidget* content, const QString& toolTip = {}) {
+    auto* box = new QWidget;
+    auto* layout = new QVBoxLayout(box);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(2);
+    auto* label = new QLabel(caption);
+    QFont bold = label->font();
+    bold.setBold(true);
+    label->setFont(bold);
+    if (!toolTip.isEmpty()) label->setToolTip(toolTip);
+    layout->addWidget(label);
+    layout->addWidget(content, 1);
+    return box;
+}
+
+QSplitter* Stack(std::initializer_list<QWidget*> parts) {
+    auto* splitter = new QSplitter(Qt::Vertical);
+    splitter->setChildrenCollapsible(false);
+    for (QWidget* part : parts) splitter->addWidget(part);
+    return splitter;
+}
+
+}  // namespace
+
+void MainWindow::BuildWindow() {
+    setWindowTitle("JarlsVakt");
+    timer1_ = new QTimer(this);
+    timer1_->setObjectName("Timer1");
+    timer1_->setSingleShot(true);   // its tick does nothing but stop it
+
+    auto* centre = new QWidget;
+    auto* columns = new QHBoxLayout;
+    columns->setContentsMargins(0, 0, 0, 0);
+    auto* outer = new QVBoxLayout(centre);
+    outer->setContentsMargins(8, 8, 8, 4);
+    outer->setSpacing(6);
+
+    auto* split = new QSplitter(Qt::Horizontal);
+    split->setChildrenCollapsible(false);
+    split->addWidget(BuildBoardArea());
+    split->addWidget(BuildListsColumn());
+    split->setStretchFactor(0, 3);
+    split->setStretchFactor(1, 2);
+
+    columns->addWidget(BuildCommandColumn());
+    columns->addWidget(split, 1);
+    outer->addLayout(columns, 1);
+    outer->addWidget(BuildDebugPanel());
+    setCentralWidget(centre);
+    BuildMenus();
+    statusBar()->setObjectName("StatusLine");
+    connect(picture_, &BoardPicture::HintChanged, this, [this](const QString& hint) {
+        if (hint.isEmpty()) statusBar()->clearMessage();
+        else statusBar()->showMessage(hint);
+    });
+    resize(1280, 820);
+}
+
+QPushButton* MainWindow::AddButton(const char* name, const QString& caption, const QString& toolTip) {
+    auto* button = new QPushButton(caption);
+    button->setObjectName(name);
+    if (!toolTip.isEmpty()) button->setToolTip(toolTip);
+    return button;
+}
+
+QWidget* MainWindow::BuildCommandColumn() {
+    auto* column = new QWidget;
+    column->setObjectName("CommandColumn");
+    column->setFixedWidth(250);
+    auto* layout = new QVBoxLayout(column);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(5);
+
+    auto* game = new QGroupBox("Game");
+    auto* grid = new QGridLayout(game);
+    grid->addWidget(AddButton("cmdload", "Load...", "Load a layout file"), 0, 0);
+    grid->addWidget(AddButton("cmdsave", "Save...", "Save the position as a layout file"), 0, 1);
+    grid->addWidget(AddButton("cmdreset", "Reset", "Start the current layout again"), 1, 0);
+    grid->addWidget(AddButton("cmdundo", "Undo", "Take back the last move"), 1, 1);
+    grid->addWidget(AddButton("cmdedit", "Edit Layout", "Switch the layout editor on or off"), 2, 0);
+    grid->addWidget(AddButton("cmdloadlog", "Replay Log...", "Step through a recorded moves log"), 2, 1);
+    layout->addWidget(game);
+
+    auto* play = new QGroupBox("Play");
+    auto* playLayout = new QVBoxLayout(play);
+    check1_ = new QCheckBox("Computer Moves Auto after User Move");
+    check1_->setObjectName("Check1");
+    check1_->setChecked(true);
+    check2_ = new QCheckBox("Record Moves to a Log");
+    check2_->setObjectName("Check2");
+    check2_->setToolTip("Append every position to a new moves log file");
+    playLayout->addWidget(check1_);
+    playLayout->addWidget(check2_);
+    playLayout->addWidget(AddButton("Command12", "AutoGame", "The computer plays both sides, defenders first"));
+    layout->addWidget(play);
+
+    auto* status = new QGroupBox("Position");
+    auto* statusLayout = new QGridLayout(status);
+    layoutName_ = new QLabel;
+    layoutName_->setObjectName("LayoutName");
+    layoutName_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    statusLayout->addWidget(new QLabel("Layout:"), 0, 0);
+    statusLayout->addWidget(layoutName_, 0, 1);
+    const char* counterNames[2] = {"ptot0", "ptot1"};
+    const char* tips[2] = {"Player 1 remaining pieces", "Player 2 remaining pieces"};
+    const char* captions[2] = {"Defenders (Player 1):", "Attackers (Player 2):"};
+    const char* captionNames[2] = {"p0count", "p1count"};
+    for (int i = 0; i < 2; ++i) {
+        auto* caption = new QLabel(captions[i]);
+        caption->setObjectName(captionNames[i]);
+        caption->setToolTip(tips[i]);
+        ptot_[i] = new QLabel("0");
+        ptot_[i]->setObjectName(counterNames[i]);
+        ptot_[i]->setToolTip(tips[i]);
+        QFont bold = ptot_[i]->font();
+        bold.setBold(true);
+        ptot_[i]->setFont(bold);
+        statusLayout->addWidget(caption, i + 1, 0);
+        statusLayout->addWidget(ptot_[i], i + 1, 1);
+    }
+    statusLayout->setColumnStretch(1, 1);
+    layout->addWidget(status);
+
+    QListWidget* undo = AddList(ListId::Undo, "Undo");
+    undo->setToolTip("Positions before each move, newest first: click one to show it");
+    layout->addWidget(Captioned("Undo history", undo, undo->toolTip()), 1);
+
+    layout->addWidget(AddButton("cmdexit", "Exit", "Save the options and leave JarlsVakt"));
+    return column;
+}
+
+QWidget* MainWindow::BuildBoardArea() {
+    auto* area = new QWidget;
+    auto* layout = new QHBoxLayout(area);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(6);
+    picture_ = new BoardPicture(game_);
+    layout->addWidget(picture_, 1);
+    // The layout editor's palette stands beside the board at its height.
+    picture2_ = new QWidget;
+    picture2_->setObjectName("Picture2");
+    picture2_->setFixedWidth(96);
+    picture2_->hide();
+    layout->addWidget(picture2_);
+    return area;
+}
+
+QListWidget* MainWindow::AddList(ListId id, const char* name) {
+    auto* list = new QListWidget;
+    list->setObjectName(name);
+    list->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    list->setUniformItemSizes(true);
+    list->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    lists_[id] = list;
+    return list;
+}
+
+QWidget* MainWindow::BuildListsColumn() {
+    eventLog_ = new LineList;
+    eventLog_->setObjectName("EventLog");
+
+    auto* tabs = new QTabWidget;
+    tabs->setObjectName("ListTabs");
+    tabs->addTab(Stack({Captioned("Ranked moves (score, defender score, from > to)", AddList(ListId::List1A, "List1A"),
+                                  "Press a line to see its move on the board"),
+                        Captioned("Plan", AddList(ListId::AttackerMovesRank, "AttackerMovesRank")),
+                        Captioned("Moves tried (to <from)", AddList(ListId::List2A, "List2A")),
+                        Captioned("Best, tied (to from score)", AddList(ListId::List3, "List3"))}),
+                 "Attackers");
+    tabs->addTab(Stack({Captioned("Ranked moves", AddList(ListId::List1D, "List1D"),
+                                  "Press a line to see its move on the board"),
+                        Captioned("Rules fired", AddList(ListId::DefenderMovesRank, "DefenderMovesRank")),
+                        Captioned("Candidates", AddList(ListId::List2D, "List2D"))}),
+                 "Defenders");
+    tabs->addTab(Captioned("Random mover (draw from>to)", AddList(ListId::List1, "List1")), "Random");
+    for (ListId id : {ListId::List1A, ListId::List1D}) lists_[id]->viewport()->installEventFilter(this);
+
+    return Stack({Captioned("Event log", eventLog_), tabs});
+}
+
+QWidget* MainWindow::BuildDebugPanel() {
+    debugPanel_ = new QGroupBox("Computer players: one step at a time");
+    debugPanel_->setObjectName("DebugPanel");
+    auto* grid = new QGridLayout(debugPanel_);
+    const std::pair<const char*, const char*> buttons[] = {
+        {"cmdGetAttackerRank", "GetAttackerRank"}, {"cmdMakeRedAutoMove", "MakeRedAutoMove"},
+        {"Command4", "MakeGreenAutoMove"},         {"cmdGetDefenderRank", "GetDefenderRank"},
+        {"cmdGreenRandom", "GreenRandom"},         {"cmdRedRandom", "RedRandom"},
+        {"cmdRedGreenRandom", "Red/GreenRandom"},  {"cmdPathAroundKing", "PathAroundKing"},
+        {"cmdCheckKingCapture", "CheckKingCapture"}, {"cmdRouteFromKing", "RouteFromKing"},
+    };
+    int i = 0;
+    for (const auto& [name, caption] : buttons) {
+        grid->addWidget(AddButton(name, caption, {}), i / 5, i % 5);
+        ++i;
+    }
+    debugPanel_->hide();
+    return debugPanel_;
+}
+
+void MainWindow::BuildMenus() {
+    QMenu* file = menuBar()->addMenu("&Game");
+    auto add = [this](QMenu* menu, const char* name, const QString& caption, QKeySequence keys = {}) {
+        QAction* action = menu->addAction(caption);
+        action->setObjectName(name);
+        if (!keys.isEmpty()) action->setShortcut(keys);
+        return action;
+    };
+    add(file, "mnuloadgame", "&Load Game...", QKeySequence::Open);
+    add(file, "mnusavegame", "&Save Game...", QKeySequence::Save);
+    add(file, "mnuresetgame", "&Reset Game");
+    file->addSeparator();
+    add(file, "mnuexit", "E&xit");
+
+    QMenu* view = menuBar()->addMenu("&View");
+    debugToggle_ = add(view, "mnudebug", "&Debug Buttons", QKeySequence("Ctrl+D"));
+    debugToggle_->setCheckable(true);
+    connect(debugToggle_, &QAction::toggled, debugPanel_, &QWidget::setVisible);
+
+    QMenu* options = menuBar()->addMenu("&Options");
+    QAction* settings = add(options, "mnuoptions", "&Options...");
+    settings->setEnabled(false);   // the options dialog is not part of this window yet
+
+    QMenu* help = menuBar()->addMenu("&Help");
+    add(help, "mnuhelp", "JarlsVakt &Help", QKeySequence::HelpContents);
+    help->addSeparator();
+    add(help, "mnuabout", "About");
+}
+
+}  // namespace jv::ui

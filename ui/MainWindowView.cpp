@@ -1,0 +1,137 @@
+// The game's view on the real window: every call the game makes to reach
+// the screen lands here.
+#include <QApplication>
+#include <QCheckBox>
+#include <QEventLoop>
+#include <QFileDialog>
+#include <QLabel>
+#include <QListWidget>
+#include <QTimer>
+#include <algorithm>
+
+#include "ui/BoardPicture.h"
+#include "ui/ColourValue.h"
+#include "ui/MainWindow.h"
+#include "ui/MsgForm.h"
+#include "ui/UndoLine.h"
+#include "ui/widgets/LineList.h"
+
+namespace jv::ui {
+
+void MainWindow::DrawBoard() {
+    ApplyWindowColours();
+    picture_->DrawBoard();
+}
+
+void MainWindow::DrawSquare(int col, int row, std::int32_t colour) {
+    picture_->DrawSquare(col, row, ToQColor(colour));
+}
+
+void MainWindow::DrawPiece(int col, int row, int drawCode) { picture_->DrawPiece(col, row, drawCode); }
+
+void MainWindow::DrawMoveMark(int fromCol, int fromRow, int toCol, int toRow) {
+    picture_->DrawMoveMark(fromCol, fromRow, toCol, toRow);
+}
+
+void MainWindow::MarkVictim(int col, int row) { picture_->MarkVictim(col, row); }
+
+void MainWindow::ShowDragLine(int fromCol, int fromRow, int toCol, int toRow) {
+    picture_->ShowDragLine(fromCol, fromRow, toCol, toRow);
+}
+
+void MainWindow::HideDragLine() { picture_->HideDragLine(); }
+
+void MainWindow::PrintLine(const std::string& text, int colour, int background) {
+    eventLog_->PrintLine(QString::fromStdString(text), colour, background);
+}
+
+void MainWindow::ClearLog() { eventLog_->clear(); }
+
+void MainWindow::Pause(int ms) {
+    if (game_.Ending) return;
+    // Timer1 runs once; every pause waiting meanwhile ends at its tick, so a
+    // pause begun inside another ends both, as one timer serves them all.
+    timer1_->setInterval(PauseLimit >= 0 ? std::min(ms, PauseLimit) : std::max(ms, 0));
+    timer1_->start();
+    QEventLoop loop;
+    connect(timer1_, &QTimer::timeout, &loop, &QEventLoop::quit);
+    connect(this, &MainWindow::Ending, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+void MainWindow::DoEvents() { QCoreApplication::processEvents(); }
+
+int MainWindow::Show(const std::string& text, const std::string& style) {
+    // Once the program is ending no new question is put.
+    if (ended_) return MsgForm::ClosedAnswer;
+    if (Answerer) return Answerer(text, style);
+    MsgForm form(this);
+    QPalette palette = form.palette();
+    palette.setColor(QPalette::Window, ToQColor(game_.ColourTable[12]));
+    form.setPalette(palette);
+    if (busy_) QApplication::setOverrideCursor(Qt::ArrowCursor);
+    const int answer = form.Show(text, style);
+    if (busy_) QApplication::restoreOverrideCursor();
+    return answer;
+}
+
+void MainWindow::EnableBoard(bool enabled) { picture_->setEnabled(enabled); }
+
+void MainWindow::SetBusy(bool busy) {
+    if (busy == busy_) return;
+    busy_ = busy;
+    if (busy) QApplication::setOverrideCursor(Qt::BusyCursor);
+    else QApplication::restoreOverrideCursor();
+}
+
+void MainWindow::UpdateCounters(int defenders, int attackers) {
+    ptot_[0]->setText(QString::number(defenders));
+    ptot_[1]->setText(QString::number(attackers));
+}
+
+void MainWindow::ShowLayoutName(const std::string& caption, const std::string& toolTip) {
+    layoutName_->setText(QString::fromStdString(caption));
+    layoutName_->setToolTip(QString::fromStdString(toolTip));
+}
+
+void MainWindow::RefreshList(ListId id) {
+    QListWidget* list = lists_.at(id);
+    const std::vector<std::string>* lines = nullptr;
+    switch (id) {
+        case ListId::List1A: lines = &game_.List1A; break;
+        case ListId::List2A: lines = &game_.List2A; break;
+        case ListId::List3: lines = &game_.List3; break;
+        case ListId::List1: lines = &game_.List1; break;
+        case ListId::List1D: lines = &game_.List1D; break;
+        case ListId::List2D: lines = &game_.List2D; break;
+        case ListId::AttackerMovesRank: lines = &game_.AttackerMovesRank; break;
+        case ListId::DefenderMovesRank: lines = &game_.DefenderMovesRank; break;
+        case ListId::Undo: lines = &game_.Undo; break;
+    }
+    QStringList shown;
+    shown.reserve(static_cast<qsizetype>(lines->size()));
+    for (std::size_t i = 0; i < lines->size(); ++i)
+        shown << QString::fromStdString(id == ListId::Undo ? UndoLine(game_, *lines, i) : (*lines)[i]);
+    list->setUpdatesEnabled(false);
+    list->clear();
+    list->addItems(shown);
+    list->setUpdatesEnabled(true);
+}
+
+void MainWindow::ShowEditor(bool visible) { picture2_->setVisible(visible); }
+
+std::string MainWindow::ChooseFile(FileMode mode, const std::string& title, const std::string& pattern,
+                                   const std::string& description) {
+    if (FileChooser) return FileChooser(mode, title);
+    QFileDialog dialog(this, QString::fromStdString(title), QString::fromStdString(game_.ProgramFolder),
+                       QString::fromStdString(description + " (" + pattern + ")"));
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    // The save command asks about an existing file itself.
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    dialog.setAcceptMode(mode == FileMode::Open ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
+    dialog.setFileMode(mode == FileMode::Open ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return "";
+    return dialog.selectedFiles().front().toStdString();
+}
+
+}  // namespace jv::ui
