@@ -1,4 +1,7 @@
 #pragma once
+#include <string>
+#include <vector>
+
 #include "core/Game.h"
 
 namespace jv {
@@ -13,5 +16,24 @@ void MakeGreenAutoMove(Game& g);
 
 // Moves one random piece of the side with the given code (debug buttons).
 void RandomMover(Game& g, int side);
+
+// Ten rounds of a random attacker move and a random defender move, the
+// attackers first (the "Red/GreenRandom" button).
+void RedGreenRandom(Game& g);
+
+// The move written in a List1A or List1D line: source at characters 13-16,
+// destination at 18-21.
+struct ListMove {
+    int FromCol = 0, FromRow = 0, ToCol = 0, ToRow = 0;
+};
+// False when the line is too short to hold a move.
+bool ReadListMove(const std::string& line, ListMove& move);
+
+// The mouse pressed on line index of a candidate list: the move is shown on
+// the board with the drag line and its marker. Nothing for an index or line
+// that holds no move on the board.
+void PreviewListMove(Game& g, const std::vector<std::string>& list, int index);
+// The mouse released: the preview is hidden.
+void EndListMovePreview(Game& g);
 
 }  // namespace jv

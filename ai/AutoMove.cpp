@@ -1,0 +1,160 @@
+#include "ai/AutoMove.h"
+
+#include <cmath>
+
+#include "ai/AttackerRank.h"
+#include "ai/DefenderRank.h"
+#include "core/Analysis.h"
+#include "core/Board.h"
+#include "core/GameView.h"
+#include "core/Move.h"
+#include "core/SortedList.h"
+#include "core/VbText.h"
+#include "records/Undo.h"
+
+namespace jv {
+
+namespace {
+
+void SetBoardEnabled(Game& g, bool enabled) {
+    g.BoardEnabled = enabled;
+    g.View->EnableBoard(enabled);
+}
+
+// The number at 1-based character position at, two characters long.
+int TwoDigits(const std::string& line, std::size_t at) {
+    return ValInt(std::string_view(line).substr(at - 1, 2));
+}
+
+// Int(Rnd * n + 1) after reseeding from the timer: 1..n, each equally likely.
+int DrawOneOf(Game& g, int n) {
+    g.Random.Randomize(g.Random.Timer());
+    return static_cast<int>(std::floor(g.Random.Rnd() * n + 1));
+}
+
+// List3: the lines of List1A that share the first line's score, as
+// destination, source and score ("0305 0301 99949").
+void ListTiedBest(Game& g) {
+    g.List3.clear();
+    const std::string best = g.List1A[0].substr(0, 5);
+    for (const std::string& line : g.List1A) {
+        if (line.compare(0, 5, best) != 0) break;
+        g.List3.push_back(line.substr(17, 4) + " " + line.substr(12, 4) + " " + line.substr(0, 5));
+    }
+    g.View->RefreshList(ListId::List3);
+}
+
+bool SideCanMove(const Game& g, int side) {
+    for (int c = 1; c <= g.BoardWidth; ++c)
+        for (int r = 1; r <= g.BoardHeight; ++r)
+            if (g.Board(c, r) == side && !g.MoveTargets(c, r).empty()) return true;
+    return false;
+}
+
+// List1: every move of the side behind a random number, the generator
+// reseeded from the timer before every draw, so draws within one tick repeat
+// and the order falls back to source and destination.
+void ListRandomMoves(Game& g, int side) {
+    g.List1.clear();
+    for (int c = 1; c <= g.BoardWidth; ++c)
+        for (int r = 1; r <= g.BoardHeight; ++r) {
+            if (g.Board(c, r) != side) continue;
+            const std::string& targets = g.MoveTargets(c, r);
+            std::size_t start = 0;
+            for (std::size_t comma; (comma = targets.find(',', start)) != std::string::npos; start = comma + 1) {
+                g.Random.Randomize(g.Random.Timer());
+                const int n = static_cast<int>(std::floor(g.Random.Rnd() * 9998));
+                InsertSorted(g.List1, Format(n, "0000") + " " + SquareText(c, r) + ">" +
+                                          targets.substr(start, comma - start));
+            }
+        }
+    g.View->RefreshList(ListId::List1);
+}
+
+bool OnBoard(const Game& g, int col, int row) {
+    return col >= 1 && col <= g.BoardWidth && row >= 1 && row <= g.BoardHeight;
+}
+
+}  // namespace
+
+void MakeRedAutoMove(Game& g) {
+    g.View->SetBusy(true);
+    SetBoardEnabled(g, false);
+    GetAttackerRank(g);
+    if (g.List1A.empty()) {
+        g.View->SetBusy(false);
+        SetBoardEnabled(g, true);
+        g.View->Show("No move for the Attacker\r\nClick Reset to start another Game", "Vbcritical+vbok");
+        g.View->DoEvents();
+        return;
+    }
+    ListTiedBest(g);
+    const int n = static_cast<int>(g.List3.size());
+    const std::string& taken = g.List3[n == 1 ? 0 : DrawOneOf(g, n) - 1];
+    MakeAttackerMove(g, TwoDigits(taken, 6), TwoDigits(taken, 8), TwoDigits(taken, 1), TwoDigits(taken, 3));
+    SetBoardEnabled(g, true);
+    g.View->SetBusy(false);
+}
+
+void MakeGreenAutoMove(Game& g) {
+    g.View->SetBusy(true);
+    SetBoardEnabled(g, false);
+    GetDefenderRank(g, 1);
+    ListMove move;
+    if (g.List1D.empty() || !ReadListMove(g.List1D[0], move)) {
+        g.View->Show("No move for the Defender\r\nClick Reset to start another Game", "Vbcritical+vbok");
+        SetBoardEnabled(g, true);
+        g.View->SetBusy(false);
+        return;
+    }
+    MakeDefenderMove(g, move.FromCol, move.FromRow, move.ToCol, move.ToRow);
+    SetBoardEnabled(g, true);
+    g.View->SetBusy(false);
+}
+
+void RandomMover(Game& g, int side) {
+    // A side without a move moves nothing and records nothing.
+    if (!SideCanMove(g, side)) {
+        g.List1.clear();
+        g.View->RefreshList(ListId::List1);
+        return;
+    }
+    RecordMove(g);
+    ListRandomMoves(g, side);
+    const std::string& line = g.List1[0];
+    const int fromCol = TwoDigits(line, 6), fromRow = TwoDigits(line, 8);
+    const int toCol = TwoDigits(line, 11), toRow = TwoDigits(line, 13);
+    g.Board(toCol, toRow) = g.Board(fromCol, fromRow);
+    g.Board(fromCol, fromRow) = EmptyCode;
+    if (g.KingCol == fromCol && g.KingRow == fromRow) {
+        g.KingCol = toCol;
+        g.KingRow = toRow;
+    }
+    AnalysePosition(g);
+    g.View->DrawBoard();
+}
+
+void RedGreenRandom(Game& g) {
+    for (int round = 0; round < 10; ++round) {
+        RandomMover(g, AttackerCode);
+        RandomMover(g, DefenderCode);
+    }
+}
+
+bool ReadListMove(const std::string& line, ListMove& move) {
+    if (line.size() < 21) return false;
+    move = {TwoDigits(line, 13), TwoDigits(line, 15), TwoDigits(line, 18), TwoDigits(line, 20)};
+    return true;
+}
+
+void PreviewListMove(Game& g, const std::vector<std::string>& list, int index) {
+    if (index < 0 || index >= static_cast<int>(list.size())) return;
+    ListMove move;
+    if (!ReadListMove(list[index], move)) return;
+    if (!OnBoard(g, move.FromCol, move.FromRow) || !OnBoard(g, move.ToCol, move.ToRow)) return;
+    ShowDragLine(g, move.FromCol, move.FromRow, move.ToCol, move.ToRow);
+}
+
+void EndListMovePreview(Game& g) { HideDragLine(g); }
+
+}  // namespace jv

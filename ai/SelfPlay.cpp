@@ -1,0 +1,56 @@
+#include "ai/SelfPlay.h"
+
+#include "ai/AutoMove.h"
+#include "core/Board.h"
+#include "core/Move.h"
+
+namespace jv {
+
+bool KingHasFreeRun(const Game& g) {
+    static constexpr int Steps[4][2] = {{-1, 0}, {1, 0}, {0, -1}, {0, 1}};
+    for (const auto& step : Steps) {
+        int c = g.KingCol + step[0], r = g.KingRow + step[1];
+        while (c >= 1 && c <= g.BoardWidth && r >= 1 && r <= g.BoardHeight && g.Board(c, r) == EmptyCode) {
+            c += step[0];
+            r += step[1];
+        }
+        if (c >= 1 && c <= g.BoardWidth && r >= 1 && r <= g.BoardHeight && IsCorner(g, c, r)) return true;
+    }
+    return false;
+}
+
+AutoGameResult PlayAutoGame(Game& g, int maxMoves) {
+    AutoGameResult result;
+    auto ended = [&](GameEnd end) {
+        result.End = end;
+        return result;
+    };
+    for (;;) {
+        if (KingAtHome(g) == 99) return ended(GameEnd::KingAtHome);
+        if (KingHasFreeRun(g)) return ended(GameEnd::KingFreeRun);
+        if (result.Moves >= maxMoves) return ended(GameEnd::MoveLimit);
+        MakeGreenAutoMove(g);
+        if (g.List1D.empty()) return ended(GameEnd::DefendersWithoutMove);
+        ++result.Moves;
+
+        if (result.Moves >= maxMoves) return ended(GameEnd::MoveLimit);
+        MakeRedAutoMove(g);
+        if (g.List1A.empty()) return ended(GameEnd::AttackersWithoutMove);
+        ++result.Moves;
+        if (CheckKingCapture(g) == 99) return ended(GameEnd::KingCaptured);
+    }
+}
+
+const char* GameEndText(GameEnd end) {
+    switch (end) {
+        case GameEnd::KingCaptured: return "King captured";
+        case GameEnd::KingAtHome: return "King at Home";
+        case GameEnd::KingFreeRun: return "King with a free run home";
+        case GameEnd::DefendersWithoutMove: return "no move for the defenders";
+        case GameEnd::AttackersWithoutMove: return "no move for the attackers";
+        case GameEnd::MoveLimit: return "move limit";
+    }
+    return "";
+}
+
+}  // namespace jv

@@ -1,0 +1,128 @@
+#include "BenchRank.h"
+
+#include <chrono>
+#include <cstdint>
+#include <cstdio>
+#include <string>
+#include <vector>
+
+#include "Timing.h"
+#include "ai/AttackerRank.h"
+#include "ai/DefenderRank.h"
+#include "ai/SelfPlay.h"
+#include "core/Analysis.h"
+#include "core/Board.h"
+#include "records/Layouts.h"
+#include "support/RecordingView.h"
+
+namespace jv::bench {
+
+namespace {
+
+struct RankPosition {
+    const char* Name;
+    std::string Path;
+};
+
+std::vector<RankPosition> RankPositions() {
+    const std::string data = std::string(JARLSVAKT_DATA_DIR) + "/";
+    return {
+        {"patf.txt (11x11)", data + "patf.txt"},
+        {"pattern1.txt", data + "pattern1.txt"},
+        {"pattern2.txt", data + "pattern2.txt"},
+        {"pattern3.txt", data + "pattern3.txt"},
+        {"pattern4.txt", data + "pattern4.txt"},
+        {"pattern5.txt", data + "pattern5.txt"},
+        {"crowded 14x14", std::string(JARLSVAKT_TEST_DATA_DIR) + "/crowded14.txt"},
+    };
+}
+
+// A game freshly loaded from a layout file, as the program starts one.
+struct LoadedGame {
+    test::RecordingView View;
+    Game G;
+    bool Load(const std::string& path) {
+        G.View = &View;
+        G.ProgramFolder = std::string(JARLSVAKT_DATA_DIR) + "/";
+        BuildColumnLetters(G);
+        LoadLayout(G, path);
+        return G.LayoutFile == path;
+    }
+};
+
+// FNV-1a over the lines, each ended by a line feed.
+void Mix(std::uint64_t& hash, const std::vector<std::string>& lines) {
+    for (const std::string& line : lines) {
+        for (unsigned char c : line) hash = (hash ^ c) * 1099511628211ULL;
+        hash = (hash ^ '\n') * 1099511628211ULL;
+    }
+}
+
+// The rankings of a fresh game on the layout: attackers, then defenders in
+// mode 1, each on its own fresh game.
+bool MixRankings(std::uint64_t& hash, const std::string& path) {
+    LoadedGame attackers;
+    if (!attackers.Load(path)) return false;
+    GetAttackerRank(attackers.G);
+    Mix(hash, attackers.G.AttackerMovesRank);
+    Mix(hash, attackers.G.List1A);
+    LoadedGame defenders;
+    if (!defenders.Load(path)) return false;
+    GetDefenderRank(defenders.G, 1);
+    Mix(hash, defenders.G.DefenderMovesRank);
+    Mix(hash, defenders.G.List1D);
+    return true;
+}
+
+// Games between the two computer players on patf.txt, the random draws
+// seeded from a clock that ticks once per call.
+void BenchSelfPlay() {
+    long long moves = 0;
+    double seconds = 0;
+    std::string ends;
+    for (int game = 1; game <= 5; ++game) {
+        LoadedGame loaded;
+        if (!loaded.Load(std::string(JARLSVAKT_DATA_DIR) + "/patf.txt")) return;
+        long long tick = 0;
+        loaded.G.Random.Timer = [&tick, game] { return 1000.0 * game + static_cast<double>(tick++) / 64.0; };
+        const auto start = std::chrono::steady_clock::now();
+        const AutoGameResult result = PlayAutoGame(loaded.G, 300);
+        const std::chrono::duration<double> spent = std::chrono::steady_clock::now() - start;
+        seconds += spent.count();
+        moves += result.Moves;
+        ends += std::string(ends.empty() ? "" : "; ") + GameEndText(result.End) + " after " +
+                std::to_string(result.Moves);
+    }
+    std::printf("%-28s %-22s %12.0f moves/s\n", "self-play (5 games)", "patf.txt (11x11)", moves / seconds);
+    std::printf("self-play games: %s\n", ends.c_str());
+}
+
+}  // namespace
+
+bool BenchRank() {
+    std::uint64_t signature = 1469598103934665603ULL;
+    for (const RankPosition& p : RankPositions()) {
+        if (!MixRankings(signature, p.Path)) {
+            std::printf("cannot read %s\n", p.Path.c_str());
+            return false;
+        }
+        LoadedGame loaded;
+        loaded.Load(p.Path);
+        Game& g = loaded.G;
+        // Each call starts from freshly analysed tables, as after a move; the
+        // analysis is a few microseconds of the figure.
+        Report("GetAttackerRank", p.Name, MedianMicros([&] {
+                   AnalysePosition(g);
+                   GetAttackerRank(g);
+               }, 11, 20));
+        Report("GetDefenderRank(1)", p.Name, MedianMicros([&] {
+                   AnalysePosition(g);
+                   GetDefenderRank(g, 1);
+               }, 11, 20));
+    }
+    std::printf("ranking signature: %016llx\n", static_cast<unsigned long long>(signature));
+    BenchSelfPlay();
+    return true;
+}
+
+}  // namespace jv::bench

@@ -1,0 +1,125 @@
+#include <chrono>
+#include <filesystem>
+#include <iostream>
+#include <map>
+#include <memory>
+
+#include "ai/SelfPlay.h"
+#include "cli/CliView.h"
+#include "cli/Commands.h"
+#include "cli/GameLoad.h"
+#include "core/VbText.h"
+#include "records/PositionRecord.h"
+#include "records/TextFile.h"
+
+namespace jv::cli {
+
+namespace {
+
+const char* const SelfplayUsage =
+    "usage: jarlsvakt-cli selfplay FILE --games N [--max-moves M] [--seed S] [--log DIR]\n";
+
+struct SelfplayOptions {
+    std::string File;
+    int Games = 0;
+    int MaxMoves = 300;
+    bool Seeded = false;
+    long long Seed = 0;
+    std::string LogFolder;
+};
+
+bool ParseCount(const std::string& text, long long& value) {
+    if (text.empty() || text.size() > 9) return false;
+    for (char c : text)
+        if (c < '0' || c > '9') return false;
+    value = std::stoll(text);
+    return true;
+}
+
+bool ParseOptions(const Args& args, SelfplayOptions& o) {
+    for (std::size_t i = 0; i < args.size(); ++i) {
+        const std::string& a = args[i];
+        if (a.rfind("--", 0) != 0) {
+            if (!o.File.empty()) return false;
+            o.File = a;
+            continue;
+        }
+        if (i + 1 >= args.size()) return false;
+        const std::string& value = args[++i];
+        long long n = 0;
+        if (a == "--log") {
+            o.LogFolder = value;
+        } else if (!ParseCount(value, n)) {
+            return false;
+        } else if (a == "--games") {
+            o.Games = static_cast<int>(n);
+        } else if (a == "--max-moves") {
+            o.MaxMoves = static_cast<int>(n);
+        } else if (a == "--seed") {
+            o.Seeded = true;
+            o.Seed = n;
+        } else {
+            return false;
+        }
+    }
+    return !o.File.empty() && o.Games > 0;
+}
+
+// With a seed, the timer that seeds the random draws runs from a fixed
+// start in steps of one tick, so a run can be repeated exactly.
+void SeedTimer(Game& g, long long seed, int game) {
+    auto ticks = std::make_shared<long long>(0);
+    const double start = static_cast<double>(seed) + 1000.0 * game;
+    g.Random.Timer = [ticks, start] { return start + static_cast<double>((*ticks)++) / 64.0; };
+}
+
+}  // namespace
+
+int RunSelfplay(const Args& args) {
+    SelfplayOptions o;
+    if (!ParseOptions(args, o)) {
+        std::cerr << SelfplayUsage;
+        return 1;
+    }
+    if (!o.LogFolder.empty()) {
+        std::error_code ec;
+        std::filesystem::create_directories(o.LogFolder, ec);
+    }
+
+    std::map<GameEnd, int> ends;
+    long long totalMoves = 0;
+    const auto started = std::chrono::steady_clock::now();
+    for (int game = 1; game <= o.Games; ++game) {
+        CliView view;
+        view.Quiet = true;
+        Game g;
+        PrepareGame(g, view);
+        if (!LoadLayoutArgument(g, o.File)) return 2;
+        if (o.Seeded) SeedTimer(g, o.Seed, game);
+        if (!o.LogFolder.empty()) {
+            g.MovesLogFile = (std::filesystem::absolute(o.LogFolder) / ("game" + Format(game, "0000") + ".txt")).string();
+            g.Check2 = true;
+        }
+
+        const AutoGameResult result = PlayAutoGame(g, o.MaxMoves);
+        // The last line holds the final position, as when recording stops.
+        if (!g.MovesLogFile.empty()) AppendLine(g.MovesLogFile, LayoutLine(g));
+        std::cout << "game " << game << ": " << GameEndText(result.End) << " after " << result.Moves << " moves\n";
+        ++ends[result.End];
+        totalMoves += result.Moves;
+    }
+    const std::chrono::duration<double> spent = std::chrono::steady_clock::now() - started;
+
+    std::cout << o.Games << " games:";
+    const char* separator = " ";
+    for (GameEnd end : {GameEnd::KingCaptured, GameEnd::KingAtHome, GameEnd::KingFreeRun,
+                        GameEnd::DefendersWithoutMove, GameEnd::AttackersWithoutMove, GameEnd::MoveLimit}) {
+        std::cout << separator << GameEndText(end) << ' ' << ends[end];
+        separator = ", ";
+    }
+    std::cout << '\n' << totalMoves << " moves in " << Format(static_cast<long long>(spent.count() * 1000), "0")
+              << " ms\n";
+    return 0;
+}
+
+}  // namespace jv::cli
