@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "BenchPerft.h"
+#include "BenchRank.h"
 #include "Timing.h"
 #include "core/Analysis.h"
 #include "core/Board.h"
@@ -40,5 +41,6 @@ int main() {
         bench::Report("AnalysePosition", p.name, bench::MedianMicros([&] { AnalysePosition(g); }));
     }
     if (!bench::BenchPerft()) return 2;
+    if (!bench::BenchRank()) return 2;
     return 0;
 }

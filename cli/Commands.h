@@ -15,6 +15,8 @@ int RunAnalyse(const Args& args);
 int RunLayout(const Args& args);
 int RunReplay(const Args& args);
 int RunPerft(const Args& args);
+int RunRank(const Args& args);
+int RunSelfplay(const Args& args);
 
 // Prepares a game for a command: the program's folder, the column letters,
 // the given view.
