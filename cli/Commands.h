@@ -15,6 +15,7 @@ int RunAnalyse(const Args& args);
 int RunLayout(const Args& args);
 int RunReplay(const Args& args);
 int RunPerft(const Args& args);
+int RunPlay(const Args& args);
 int RunRank(const Args& args);
 int RunSelfplay(const Args& args);
 

@@ -18,6 +18,7 @@ const std::map<std::string, Command>& Commands() {
         {"analyse", {RunAnalyse, "analyse FILE|-      print the analysis of a layout"}},
         {"layout", {RunLayout, "layout FILE|-       print a layout line and its board"}},
         {"replay", {RunReplay, "replay LOGFILE      print every position of a moves log"}},
+        {"play", {RunPlay, "play FILE [--auto-reply] [--seed N] MOVE...  play moves and print what happens"}},
         {"perft", {RunPerft, "perft FILE|- DEPTH [--side attackers|defenders]  count the move sequences"}},
         {"rank", {RunRank, "rank attackers FILE | rank defenders FILE [--mode 1]  print a side's ranking"}},
         {"selfplay", {RunSelfplay, "selfplay FILE --games N [--max-moves M] [--seed S] [--log DIR]  computer against computer"}},

@@ -15,11 +15,13 @@ bool InPlay(const Game& g, int col, int row) {
 
 bool IsKingSquare(const Game& g, int col, int row) { return col == g.KingCol && row == g.KingRow; }
 
-// True when the target list holds the square's item at an item boundary.
+// True when the target list ("0305,0306,") holds the square (squares in
+// play have two-digit numbers).
 bool ListsSquare(std::string_view targets, int col, int row) {
-    const std::string item = SquareText(col, row);
-    for (std::size_t i = 0; i + item.size() <= targets.size(); i += item.size() + 1)
-        if (targets.compare(i, item.size(), item) == 0) return true;
+    const char item[4] = {static_cast<char>('0' + col / 10), static_cast<char>('0' + col % 10),
+                          static_cast<char>('0' + row / 10), static_cast<char>('0' + row % 10)};
+    for (std::size_t i = 0; i + 4 <= targets.size(); i += 5)
+        if (targets.compare(i, 4, std::string_view(item, 4)) == 0) return true;
     return false;
 }
 

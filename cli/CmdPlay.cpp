@@ -1,0 +1,133 @@
+#include <iostream>
+#include <optional>
+
+#include "ai/AutoMove.h"
+#include "cli/CliView.h"
+#include "cli/Commands.h"
+#include "core/Move.h"
+#include "core/Pointer.h"
+#include "records/Layouts.h"
+#include "records/Configuration.h"
+#include "records/PositionRecord.h"
+#include "records/TextFile.h"
+#include "records/Undo.h"
+
+namespace jv::cli {
+
+namespace {
+
+const char* const PlayUsage =
+    "usage: jarlsvakt-cli play FILE [--auto-reply] [--seed N] MOVE...\n"
+    "  MOVE: user:CCRR>CCRR  attacker:CCRR>CCRR  defender:CCRR>CCRR  red  green  undo\n";
+
+struct MoveSquares {
+    int FromCol = 0, FromRow = 0, ToCol = 0, ToRow = 0;
+};
+
+struct Step {
+    std::string Text;   // as given, for the REFUSED line
+    std::string Kind;   // "user", "attacker", "defender", "red", "green", "undo"
+    MoveSquares Squares;
+};
+
+bool AllDigits(const std::string& text) {
+    if (text.empty()) return false;
+    for (char c : text)
+        if (c < '0' || c > '9') return false;
+    return true;
+}
+
+// "CCRR>CCRR": two squares, each as its column and row in two digits.
+std::optional<MoveSquares> ParseSquares(const std::string& text) {
+    if (text.size() != 9 || text[4] != '>' || !AllDigits(text.substr(0, 4)) || !AllDigits(text.substr(5)))
+        return std::nullopt;
+    auto two = [&text](std::size_t at) { return (text[at] - '0') * 10 + (text[at + 1] - '0'); };
+    return MoveSquares{two(0), two(2), two(5), two(7)};
+}
+
+std::optional<Step> ParseStep(const std::string& text) {
+    if (text == "red" || text == "green" || text == "undo") return Step{text, text, {}};
+    const std::size_t colon = text.find(':');
+    if (colon == std::string::npos) return std::nullopt;
+    const std::string kind = text.substr(0, colon);
+    if (kind != "user" && kind != "attacker" && kind != "defender") return std::nullopt;
+    const auto squares = ParseSquares(text.substr(colon + 1));
+    if (!squares) return std::nullopt;
+    return Step{text, kind, *squares};
+}
+
+bool InPlay(const Game& g, int col, int row) {
+    return col >= 1 && col <= g.BoardWidth && row >= 1 && row <= g.BoardHeight;
+}
+
+// The user's drag and drop; false when the board did not change.
+bool UserMove(Game& g, const MoveSquares& s) {
+    const std::string before = EncodePosition(g);
+    if (BeginDrag(g, s.FromCol, s.FromRow)) EndDrag(g, s.ToCol, s.ToRow);
+    return EncodePosition(g) != before;
+}
+
+// Applies one step; false when it was refused.
+bool Apply(Game& g, const Step& step) {
+    const MoveSquares& s = step.Squares;
+    if (step.Kind == "user") return UserMove(g, s);
+    if (step.Kind == "red") MakeRedAutoMove(g);
+    else if (step.Kind == "green") MakeGreenAutoMove(g);
+    else if (step.Kind == "undo") UndoCommand(g);
+    else if (!InPlay(g, s.FromCol, s.FromRow) || !InPlay(g, s.ToCol, s.ToRow)) return false;
+    else if (step.Kind == "attacker") MakeAttackerMove(g, s.FromCol, s.FromRow, s.ToCol, s.ToRow);
+    else MakeDefenderMove(g, s.FromCol, s.FromRow, s.ToCol, s.ToRow);
+    return true;
+}
+
+}  // namespace
+
+int RunPlay(const Args& args) {
+    std::string file;
+    bool autoReply = false;
+    std::optional<double> seed;
+    std::vector<Step> steps;
+    for (std::size_t i = 0; i < args.size(); ++i) {
+        const std::string& a = args[i];
+        if (a == "--auto-reply") {
+            autoReply = true;
+        } else if (a == "--seed" && i + 1 < args.size() && AllDigits(args[i + 1]) && args[i + 1].size() <= 9) {
+            seed = std::stod(args[++i]);
+        } else if (file.empty()) {
+            file = a;
+        } else if (const auto step = ParseStep(a)) {
+            steps.push_back(*step);
+        } else {
+            std::cerr << "jarlsvakt-cli play: not a move: " << a << '\n' << PlayUsage;
+            return 1;
+        }
+    }
+    if (file.empty()) {
+        std::cerr << PlayUsage;
+        return 1;
+    }
+
+    CliView view;
+    Game g;
+    PrepareGame(g, view);
+    g.Check1 = autoReply;
+    if (seed) {
+        // The computer players reseed from the timer before they draw: a
+        // timer that stands still makes every draw repeatable.
+        g.Random.Randomize(*seed);
+        g.Random.Timer = [value = *seed] { return value; };
+    }
+
+    // A layout of the program's folder keeps the name given, which the log
+    // shows; one found only from the current folder is loaded by its path.
+    std::string name = file;
+    if (!FileExists(InProgramFolder(g, file)) && FileExists(file)) name = ResolveArgument(g, file);
+    LoadLayout(g, name);
+    if (g.LayoutFile != name) return 2;   // reported by LoadLayout
+    for (const Step& step : steps)
+        if (!Apply(g, step)) std::cout << "REFUSED " << step.Text << '\n';
+    std::cout << "LAYOUT " << LayoutLine(g) << '\n';
+    return 0;
+}
+
+}  // namespace jv::cli

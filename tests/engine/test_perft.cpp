@@ -1,0 +1,155 @@
+#include <gtest/gtest.h>
+
+#include "core/Board.h"
+#include "core/Move.h"
+#include "core/Perft.h"
+#include "core/Pointer.h"
+#include "core/Reach.h"
+#include "core/Session.h"
+#include "records/LayoutFile.h"
+#include "records/PositionRecord.h"
+#include "support/Fixtures.h"
+
+using namespace jv;
+using jv::test::PlacePieces;
+using jv::test::TestGame;
+
+namespace {
+
+// The slow counter: every move is played on a copy of the whole game by the
+// program's own procedures, the user's drag and drop for the defenders and
+// MakeAttackerMove for the attackers.
+
+bool IsCentre(const Game& g, int col, int row) { return col == g.CentreCol && row == g.CentreRow; }
+
+// The moves of a side: for a defender, every square of its row and column
+// that the pointer accepts as a drop, but the centre for anyone but the King;
+// for an attacker, its targets but the centre.
+std::vector<PerftMove> SlowMoves(Game& g, int side) {
+    std::vector<PerftMove> moves;
+    for (int col = 1; col <= g.BoardWidth; ++col)
+        for (int row = 1; row <= g.BoardHeight; ++row) {
+            if (g.Board(col, row) != side) continue;
+            const bool king = col == g.KingCol && row == g.KingRow;
+            auto add = [&](int c, int r) {
+                if (king || !IsCentre(g, c, r)) moves.push_back({col, row, c, r});
+            };
+            if (side == AttackerCode) {
+                ForEachSquareItem(g.MoveTargets(col, row), add);
+                continue;
+            }
+            g.DragSource = Square{col, row};
+            for (int c = 1; c <= g.BoardWidth; ++c)
+                if (AcceptsDrop(g, c, row)) add(c, row);
+            for (int r = 1; r <= g.BoardHeight; ++r)
+                if (AcceptsDrop(g, col, r)) add(col, r);
+            g.DragSource = Square{};
+        }
+    return moves;
+}
+
+Game SlowMove(const Game& g, const PerftMove& m, int side) {
+    Game next = g;
+    next.Check1 = false;   // the computer does not answer: the counter plays both sides
+    if (side == DefenderCode) {
+        EXPECT_TRUE(BeginDrag(next, m.FromCol, m.FromRow));
+        EXPECT_TRUE(EndDrag(next, m.ToCol, m.ToRow));
+    } else {
+        MakeAttackerMove(next, m.FromCol, m.FromRow, m.ToCol, m.ToRow);
+    }
+    EXPECT_NE(EncodePosition(next), EncodePosition(g));
+    return next;
+}
+
+std::uint64_t SlowCount(Game& g, int depth, int side) {
+    if (depth == 0) return 1;
+    if (GameFinished(g) || KingAtHome(g) == 99) return 0;
+    const std::vector<PerftMove> moves = SlowMoves(g, side);
+    if (depth == 1) return moves.size();
+    std::uint64_t total = 0;
+    for (const PerftMove& m : moves) {
+        Game next = SlowMove(g, m, side);
+        total += SlowCount(next, depth - 1, 1 - side);
+    }
+    return total;
+}
+
+void ReadLayout(TestGame& t, const std::string& name) {
+    ASSERT_FALSE(ReadLayoutFile(t.g, jv::test::DataPath(name)));
+}
+
+// Both counters agree at every depth up to the given one, and the board is left as it was.
+void ExpectCountersAgree(Game& g, int maxDepth, int side) {
+    const std::string before = EncodePosition(g);
+    for (int depth = 1; depth <= maxDepth; ++depth)
+        EXPECT_EQ(Perft(g, depth, side), SlowCount(g, depth, side)) << "depth " << depth << " side " << side;
+    EXPECT_EQ(EncodePosition(g), before);
+}
+
+}  // namespace
+
+TEST(Perft, ShippedLayoutsCountAsPinnedAndAsTheSlowCounter) {
+    // The counts of the shipped layouts are fixed; the program's own procedures, move by move on copies,
+    // give the same numbers (to the depth given as slow, for time).
+    struct Row {
+        const char* layout;
+        int side;
+        std::uint64_t counts[3];
+        int slow;
+    };
+    const Row table[] = {
+        {"patf.txt", DefenderCode, {60, 6900, 440056}, 3},
+        {"patf.txt", AttackerCode, {116, 6788, 806344}, 2},
+        {"pattern1.txt", DefenderCode, {24, 944, 23984}, 3},
+        {"pattern1.txt", AttackerCode, {40, 960, 39512}, 3},
+    };
+    for (const Row& row : table) {
+        TestGame t;
+        ReadLayout(t, row.layout);
+        for (int depth = 1; depth <= 3; ++depth) {
+            EXPECT_EQ(Perft(t.g, depth, row.side), row.counts[depth - 1]) << row.layout << " depth " << depth;
+            if (depth <= row.slow)
+                EXPECT_EQ(SlowCount(t.g, depth, row.side), row.counts[depth - 1]) << row.layout << " depth " << depth;
+        }
+    }
+}
+
+TEST(Perft, CapturesAndTheKingsCaptureAgreeWithTheGame) {
+    // A crowded position with sandwiches for both sides, the King on the edge beside a corner and an
+    // attacker that can close him in: both counters agree to depth 3 from either side.
+    TestGame t;
+    Game& g = t.g;
+    PlacePieces(g, 7, 7, {"..a", "K...a", "a.d.d", ".d..a", "..a...d", ".a..d", "...a"});
+    ExpectCountersAgree(g, 3, DefenderCode);
+    ExpectCountersAgree(g, 3, AttackerCode);
+}
+
+TEST(Perft, TheKingAtHomeOrTakenEndsTheLine) {
+    // The King's move Home counts as a move but nothing follows it; so does the attacker move that takes him.
+    // On 5 by 5 the King on A3 has eight moves, two of them Home; the attacker on C5 then has five replies,
+    // three when the King blocks its line on the centre: 28 sequences of two moves.
+    TestGame t;
+    Game& g = t.g;
+    PlacePieces(g, 5, 5, {"..K", ".", "....a"});
+    EXPECT_EQ(Perft(g, 1, DefenderCode), 8u);
+    EXPECT_EQ(Perft(g, 2, DefenderCode), 28u);
+    for (const PerftLine& line : PerftDivide(g, 2, DefenderCode)) {
+        const bool home = IsCorner(g, line.Move.ToCol, line.Move.ToRow);
+        const bool centre = line.Move.ToCol == 3 && line.Move.ToRow == 3;
+        EXPECT_EQ(line.Count, home ? 0u : centre ? 3u : 5u) << line.Move.ToCol << "," << line.Move.ToRow;
+    }
+
+    // The King on D1 between attackers on C1 and E1: the attacker from F2 to D2 takes him.
+    PlacePieces(g, 7, 7, {".", ".", "a", "K", "a", ".a"});
+    bool found = false;
+    for (const PerftLine& line : PerftDivide(g, 2, AttackerCode)) {
+        const bool takesKing = line.Move.FromCol == 6 && line.Move.ToCol == 4 && line.Move.ToRow == 2;
+        found = found || takesKing;
+        if (takesKing) EXPECT_EQ(line.Count, 0u);
+        else EXPECT_GT(line.Count, 0u);
+    }
+    EXPECT_TRUE(found);
+    EXPECT_EQ(Perft(g, 1, AttackerCode), 26u);
+    ExpectCountersAgree(g, 3, AttackerCode);
+    EXPECT_EQ(Perft(g, 0, AttackerCode), 1u);
+}
