@@ -27,7 +27,7 @@ MainWindow::MainWindow(const std::string& programFolder, QWidget* parent) : QMai
 }
 
 MainWindow::~MainWindow() {
-    SetBusy(false);
+    EndBusy();
     // Nothing may reach the window while it is taken down.
     game_.Ending = true;
 }
@@ -57,7 +57,7 @@ void MainWindow::EndNow() {
     ended_ = true;
     game_.Ending = true;
     timer1_->stop();
-    SetBusy(false);
+    EndBusy();
     emit Ending();
     close();
     // Leaves every running event loop, the main one included.
@@ -65,6 +65,11 @@ void MainWindow::EndNow() {
 }
 
 void MainWindow::EndProgram() { EndNow(); }
+
+void MainWindow::EndBusy() {
+    if (busy_ > 0) QApplication::restoreOverrideCursor();
+    busy_ = 0;
+}
 
 void MainWindow::closeEvent(QCloseEvent* event) {
     // Closed by the window frame: the program ends at once, without the

@@ -102,6 +102,7 @@ private:
     void ApplyWindowColours();
     void SyncChecks();
     void EndNow();
+    void EndBusy();
 
     Game game_;
     BoardPicture* picture_ = nullptr;
@@ -116,7 +117,7 @@ private:
     QGroupBox* debugPanel_ = nullptr;
     QAction* debugToggle_ = nullptr;
     bool ended_ = false;
-    bool busy_ = false;
+    int busy_ = 0;   // open busy sections
     bool previewing_ = false;
     std::array<std::int32_t, 14> appliedColours_{};
     bool coloursApplied_ = false;

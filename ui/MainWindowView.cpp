@@ -69,19 +69,23 @@ int MainWindow::Show(const std::string& text, const std::string& style) {
     QPalette palette = form.palette();
     palette.setColor(QPalette::Window, ToQColor(game_.ColourTable[12]));
     form.setPalette(palette);
-    if (busy_) QApplication::setOverrideCursor(Qt::ArrowCursor);
+    // A question waits for the user: the ordinary pointer, even mid-move.
+    const bool busy = busy_ > 0;
+    if (busy) QApplication::setOverrideCursor(Qt::ArrowCursor);
     const int answer = form.Show(text, style);
-    if (busy_) QApplication::restoreOverrideCursor();
+    if (busy) QApplication::restoreOverrideCursor();
     return answer;
 }
 
 void MainWindow::EnableBoard(bool enabled) { picture_->setEnabled(enabled); }
 
 void MainWindow::SetBusy(bool busy) {
-    if (busy == busy_) return;
-    busy_ = busy;
-    if (busy) QApplication::setOverrideCursor(Qt::BusyCursor);
-    else QApplication::restoreOverrideCursor();
+    // Busy sections nest (the attackers' ranking inside the computer's
+    // move): the pointer is busy until the outermost one ends.
+    const bool before = busy_ > 0;
+    busy_ = busy ? busy_ + 1 : std::max(busy_ - 1, 0);
+    if (!before && busy_ > 0) QApplication::setOverrideCursor(Qt::BusyCursor);
+    if (before && busy_ == 0) QApplication::restoreOverrideCursor();
 }
 
 void MainWindow::UpdateCounters(int defenders, int attackers) {

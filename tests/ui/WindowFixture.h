@@ -9,6 +9,7 @@
 #include <QMouseEvent>
 #include <QTemporaryDir>
 #include <deque>
+#include <map>
 #include <string>
 #include <utility>
 #include <vector>
@@ -51,10 +52,13 @@ struct Questions {
     std::vector<std::pair<std::string, std::string>> Asked;   // text, style
     std::deque<int> Answers;
     int DefaultAnswer = 1;
+    // Answers kept for one question whenever it is put, before the script.
+    std::map<std::string, int> AnswerTo;
 
     void AnswerFor(ui::MainWindow& window) {
         window.Answerer = [this](const std::string& text, const std::string& style) {
             Asked.emplace_back(text, style);
+            if (auto fixed = AnswerTo.find(text); fixed != AnswerTo.end()) return fixed->second;
             if (Answers.empty()) return DefaultAnswer;
             const int answer = Answers.front();
             Answers.pop_front();
