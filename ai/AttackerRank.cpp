@@ -7,7 +7,7 @@
 
 #include "ai/AttackerPlan.h"
 #include "ai/KingRoutes.h"
-#include "ai/TargetList.h"
+#include "ai/SquareLists.h"
 #include "core/Analysis.h"
 #include "core/Board.h"
 #include "core/GameView.h"
@@ -156,10 +156,7 @@ void TryAttackerMove(Game& g, const AttackerMove& m, int before, std::string& ro
 }  // namespace
 
 void AddPlanEntry(Game& g, const std::string& squares, int value, const std::string& label) {
-    ForEachSquareItem(squares, [&](int col, int row) {
-        if (col < Grid<int>::Low || col > Grid<int>::High || row < Grid<int>::Low || row > Grid<int>::High) return;
-        g.PlanBonus(col, row) += g.SquareWeight(col, row) + value;
-    });
+    AddToNamedSquares(g.PlanBonus, g.SquareWeight, squares, value);
     g.AttackerMovesRank.push_back(Format(value, "0000") + " " + label);
 }
 

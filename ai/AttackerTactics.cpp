@@ -25,36 +25,22 @@ void NeighbourSides(int c, int r, Sides (&out)[4]) {
     out[3] = {c - 1, r, c + 1, r};
 }
 
-// Stage one: an empty square beside a defender whose other side holds an
-// attacker (or a corner, which helps the attacker here).
-void MoveToCapture(Game& g) {
-    SetHomeSquares(g, AttackerCode);
+// Stages one and two: an empty square beside a piece of code piece whose
+// opposite side holds code opposite, the corners standing for cornerCode
+// meanwhile; with defenderMustReach only squares a defender can move to.
+void SandwichStage(Game& g, int piece, int opposite, int cornerCode, bool defenderMustReach, int value,
+                   const char* literal) {
+    SetHomeSquares(g, cornerCode);
     for (int c = 1; c <= g.BoardWidth; ++c)
         for (int r = 1; r <= g.BoardHeight; ++r) {
-            if (g.Board(c, r) != DefenderCode) continue;
+            if (g.Board(c, r) != piece) continue;
             Sides sides[4];
             NeighbourSides(c, r, sides);
             for (const Sides& s : sides)
-                if (Empty(g, s.TargetCol, s.TargetRow) && g.Board(s.OppositeCol, s.OppositeRow) == AttackerCode)
-                    AddPlanEntryAt(g, s.TargetCol, s.TargetRow, 7000, " : move to capture piece");
+                if (Empty(g, s.TargetCol, s.TargetRow) && g.Board(s.OppositeCol, s.OppositeRow) == opposite &&
+                    (!defenderMustReach || DefenderReaches(g, s.TargetCol, s.TargetRow)))
+                    AddPlanEntryAt(g, s.TargetCol, s.TargetRow, value, literal);
         }
-}
-
-// Stage two: the empty square a defender could move to and sandwich an
-// attacker against a defender or a corner.
-void FillToAvoidCapture(Game& g) {
-    SetHomeSquares(g, DefenderCode);
-    for (int c = 1; c <= g.BoardWidth; ++c)
-        for (int r = 1; r <= g.BoardHeight; ++r) {
-            if (g.Board(c, r) != AttackerCode) continue;
-            Sides sides[4];
-            NeighbourSides(c, r, sides);
-            for (const Sides& s : sides)
-                if (Empty(g, s.TargetCol, s.TargetRow) && g.Board(s.OppositeCol, s.OppositeRow) == DefenderCode &&
-                    DefenderReaches(g, s.TargetCol, s.TargetRow))
-                    AddPlanEntryAt(g, s.TargetCol, s.TargetRow, 1000, " : fill to avoid capture");
-        }
-    SetHomeSquares(g, HomeCode);
 }
 
 // Stages three and four: a defender between two empty squares that an
@@ -183,8 +169,11 @@ void CheckKingCapture(Game& g) {
 }  // namespace plan
 
 void PlanCaptures(Game& g) {
-    MoveToCapture(g);
-    FillToAvoidCapture(g);
+    // Move to capture: a Home corner helps the attacker here.
+    SandwichStage(g, DefenderCode, AttackerCode, AttackerCode, false, 7000, " : move to capture piece");
+    // Fill to avoid capture: a Home corner counts as a defender.
+    SandwichStage(g, AttackerCode, DefenderCode, DefenderCode, true, 1000, " : fill to avoid capture");
+    SetHomeSquares(g, HomeCode);
     PlaceBeside(g, 0, 1, " : place left try to capture", " : place right try to capture");
     PlaceBeside(g, 1, 0, " : place above try to capture", " : place down try to capture");
 }

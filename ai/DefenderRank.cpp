@@ -5,6 +5,7 @@
 #include "ai/AttackerRank.h"
 #include "ai/AttackerTactics.h"
 #include "ai/KingRoutes.h"
+#include "ai/SquareLists.h"
 #include "core/Board.h"
 #include "core/GameView.h"
 #include "core/Reach.h"
@@ -70,10 +71,7 @@ void ListDefenderMoves(Game& g) {
 }  // namespace
 
 void AddDefenderRank(Game& g, const std::string& squares, int rank, const std::string& text) {
-    ForEachSquareItem(squares, [&](int col, int row) {
-        if (col < Grid<int>::Low || col > Grid<int>::High || row < Grid<int>::Low || row > Grid<int>::High) return;
-        g.DefenderScore(col, row) += g.DefenderBonus(col, row) + rank;
-    });
+    AddToNamedSquares(g.DefenderScore, g.DefenderBonus, squares, rank);
     g.DefenderMovesRank.push_back(Format(rank, "0000") + " " + text);
 }
 

@@ -1,6 +1,6 @@
 #include "ai/KingRoutes.h"
 
-#include "ai/TargetList.h"
+#include "ai/SquareLists.h"
 #include "core/Board.h"
 #include "core/Reach.h"
 

@@ -1,5 +1,9 @@
 #pragma once
+#include <cstdint>
 #include <string>
+
+#include "core/Grid.h"
+#include "core/Reach.h"
 
 namespace jv {
 
@@ -21,6 +25,17 @@ void ForEachTarget(const std::string& targets, Visit visit) {
         TargetAt(targets, i, col, row);
         visit(col, row);
     }
+}
+
+// What both players do with the squares a plan or a rule names: every
+// non-blank item of squares adds the square's extra plus value to table,
+// once for each time it is named. Items outside the table are skipped.
+inline void AddToNamedSquares(Grid<std::int32_t>& table, const Grid<std::int32_t>& extra, const std::string& squares,
+                              int value) {
+    ForEachSquareItem(squares, [&](int col, int row) {
+        if (col < Grid<int>::Low || col > Grid<int>::High || row < Grid<int>::Low || row > Grid<int>::High) return;
+        table(col, row) += extra(col, row) + value;
+    });
 }
 
 }  // namespace jv
