@@ -1,7 +1,6 @@
 #include "ai/AttackerRank.h"
 
 #include <algorithm>
-#include <array>
 #include <cstring>
 #include <vector>
 
@@ -24,7 +23,7 @@ struct AttackerMove {
     int FromCol, FromRow, ToCol, ToRow;
 };
 
-// Step 4: every attacker move but those to the centre, as List2A lines
+// Every attacker move but those to the centre, as List2A lines
 // ("0305 <0301") and as numbers in the same order.
 void ListAttackerMoves(Game& g, std::vector<AttackerMove>& moves) {
     g.List2A.clear();
@@ -119,7 +118,9 @@ private:
             }
     }
 
-    bool original_ = false;   // the tables but the two above are the start's
+    // True while every table but the defenders' reach and the King's targets
+    // is that of the start position.
+    bool original_ = false;
     Grid<std::int32_t> board_;
     int kingCol_ = 0, kingRow_ = 0;
     Grid<std::int8_t> kept_;
@@ -127,7 +128,7 @@ private:
     std::string walk_;
 };
 
-// Steps 6.1 to 6.11 for one candidate, tried on the shared board. A move
+// One candidate, tried and scored on the shared board. A move
 // rejected for exposing the piece or opening the King's run is put back
 // without a new analysis, so the tables stay those of the tried position
 // until the next candidate that is scored.
