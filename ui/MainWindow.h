@@ -23,6 +23,10 @@ namespace jv::ui {
 class BoardPicture;
 class LineList;
 
+// The text of the "CheckKingCapture" debug button's message: the capture
+// rule's answer and the King's neighbours, for looking at, changing nothing.
+std::string KingCaptureDiagnostic(Game& g);
+
 // The main window: owns the game, shows it, and is the game's only way to
 // the screen. Every control carries the program's name for it as its
 // objectName (Picture1, cmdundo, Check1, List1A, EventLog, Timer1, ...).

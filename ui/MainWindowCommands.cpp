@@ -12,7 +12,10 @@
 #include "ai/AutoMove.h"
 #include "ai/DefenderRank.h"
 #include "ai/KingRoutes.h"
+#include "core/Board.h"
+#include "core/Move.h"
 #include "core/Session.h"
+#include "core/VbText.h"
 #include "records/Layouts.h"
 #include "records/MovesLog.h"
 #include "records/Undo.h"
@@ -74,6 +77,15 @@ void MainWindow::ConnectDebugButtons() {
         std::string route;
         RouteFromKing(game_, route);
     });
+    onClick("cmdCheckKingCapture", [this] { Show(KingCaptureDiagnostic(game_), "vbokonly"); });
+}
+
+std::string KingCaptureDiagnostic(Game& g) {
+    // Compx: the capture rule's answer now (99 taken); UserX: the King at
+    // Home (99); then the attackers, defenders and empty squares beside him.
+    const KingNeighbours around = KingNeighbourCounts(g);
+    return "Compx=" + Str(jv::CheckKingCapture(g)) + "\r\nUserX=" + Str(KingAtHome(g)) + "\r\n" +
+           Str(around.Attackers) + Str(around.Defenders) + Str(around.Empties);
 }
 
 void MainWindow::PreviewListMove(ListId id) {

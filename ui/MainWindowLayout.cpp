@@ -95,7 +95,7 @@ QPushButton* MainWindow::AddButton(const char* name, const QString& caption, con
 QWidget* MainWindow::BuildCommandColumn() {
     auto* column = new QWidget;
     column->setObjectName("CommandColumn");
-    column->setFixedWidth(250);
+    column->setFixedWidth(292);
     auto* layout = new QVBoxLayout(column);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(5);
@@ -106,7 +106,9 @@ QWidget* MainWindow::BuildCommandColumn() {
     grid->addWidget(AddButton("cmdsave", "Save...", "Save the position as a layout file"), 0, 1);
     grid->addWidget(AddButton("cmdreset", "Reset", "Start the current layout again"), 1, 0);
     grid->addWidget(AddButton("cmdundo", "Undo", "Take back the last move"), 1, 1);
-    grid->addWidget(AddButton("cmdedit", "Edit Layout", "Switch the layout editor on or off"), 2, 0);
+    QPushButton* edit = AddButton("cmdedit", "Edit Layout", "Switch the layout editor on or off");
+    edit->setEnabled(false);   // until the layout editor joins the window
+    grid->addWidget(edit, 2, 0);
     grid->addWidget(AddButton("cmdloadlog", "Replay Log...", "Step through a recorded moves log"), 2, 1);
     layout->addWidget(game);
 
@@ -178,8 +180,12 @@ QListWidget* MainWindow::AddList(ListId id, const char* name) {
     auto* list = new QListWidget;
     list->setObjectName(name);
     list->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    list->setUniformItemSizes(true);
+    // Lines of unequal length: each line's own width, so a long one can be
+    // scrolled to.
+    list->setUniformItemSizes(false);
+    list->setMinimumHeight(48);
     list->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    list->setTextElideMode(Qt::ElideNone);   // long lines scroll rather than lose their end
     lists_[id] = list;
     return list;
 }
@@ -204,7 +210,9 @@ QWidget* MainWindow::BuildListsColumn() {
     tabs->addTab(Captioned("Random mover (draw from>to)", AddList(ListId::List1, "List1")), "Random");
     for (ListId id : {ListId::List1A, ListId::List1D}) lists_[id]->viewport()->installEventFilter(this);
 
-    return Stack({Captioned("Event log", eventLog_), tabs});
+    QSplitter* column = Stack({Captioned("Event log", eventLog_), tabs});
+    column->setSizes({360, 440});
+    return column;
 }
 
 QWidget* MainWindow::BuildDebugPanel() {

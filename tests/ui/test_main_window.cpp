@@ -52,6 +52,7 @@ private slots:
     void AutoGameEndsWhenTheProgramEnds();
     void EventLogColoursAndNewestLine();
     void HelpAndAbout();
+    void DebugButtonsAct();
 };
 
 void TestMainWindow::StartsOnTheDefaultLayout() {
@@ -220,6 +221,28 @@ void TestMainWindow::HelpAndAbout() {
     QFile::remove(QString::fromStdString(s.folder.File("jarlsvakt.htm")));
     s.Find<QAction>("mnuhelp")->trigger();
     QCOMPARE(s.questions.Asked.back().first, "Help file not found:\r\n" + s.folder.File("jarlsvakt.htm"));
+}
+
+void TestMainWindow::DebugButtonsAct() {
+    // The debug buttons each do one thing: rank the attackers' moves into
+    // their lists, move one random attacker ("GreenRandom"), or show the
+    // King's capture diagnostic without changing the board.
+    Started s;
+    QTest::mouseClick(s.Find<QPushButton>("cmdGetAttackerRank"), Qt::LeftButton);
+    QVERIFY(s.Find<QListWidget>("List1A")->count() > 0);
+    QCOMPARE(s.Find<QListWidget>("List1A")->count(), static_cast<int>(s.window.game().List1A.size()));
+    QVERIFY(s.Find<QListWidget>("AttackerMovesRank")->count() > 0);
+
+    // The King on F6 stands among his four men.
+    QTest::mouseClick(s.Find<QPushButton>("cmdCheckKingCapture"), Qt::LeftButton);
+    QCOMPARE(s.questions.Asked.back().first, std::string("Compx= 0\r\nUserX= 0\r\n 0 4 0"));
+
+    const int attackersBefore = s.window.game().AttackerCount;
+    QTest::mouseClick(s.Find<QPushButton>("cmdGreenRandom"), Qt::LeftButton);
+    QCOMPARE(s.Find<QListWidget>("List1")->count(), static_cast<int>(s.window.game().List1.size()));
+    QVERIFY(s.Find<QListWidget>("List1")->count() > 0);
+    QCOMPARE(s.window.game().AttackerCount, attackersBefore);
+    QCOMPARE(s.Find<QListWidget>("Undo")->count(), 1);
 }
 
 QTEST_MAIN(TestMainWindow)

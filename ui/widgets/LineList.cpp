@@ -11,6 +11,7 @@ LineList::LineList(QWidget* parent) : QListWidget(parent) {
     setFocusPolicy(Qt::NoFocus);
     setUniformItemSizes(true);
     setWordWrap(false);
+    setTextElideMode(Qt::ElideNone);
 }
 
 void LineList::SetLineColour(int n, const QColor& colour) { colours_[Slot(n)] = colour; }
