@@ -8,6 +8,7 @@
 #include <QListWidget>
 #include <QMouseEvent>
 #include <QTemporaryDir>
+#include <QtTest>
 #include <deque>
 #include <map>
 #include <string>
@@ -69,6 +70,25 @@ struct Questions {
         for (const auto& [t, s] : Asked)
             if (t == text) return true;
         return false;
+    }
+};
+
+// A window started in its own program folder, shown, its questions
+// answered from a script and its pauses cut to nothing.
+struct StartedWindow {
+    ProgramFolder folder;
+    ui::MainWindow window{folder.Path()};
+    Questions questions;
+    StartedWindow() {
+        questions.AnswerFor(window);
+        window.PauseLimit = 0;
+        window.Start();
+        window.show();
+        (void)QTest::qWaitForWindowExposed(&window);
+    }
+    template <typename T>
+    T* Find(const char* name) {
+        return window.findChild<T*>(name);
     }
 };
 

@@ -21,21 +21,7 @@ namespace {
 
 const char* const Missing = "File: all.col is missing\r\nProgram cannot run without this file";
 
-// A started window in its own program folder, its questions answered.
-struct Started {
-    ProgramFolder folder;
-    MainWindow window{folder.Path()};
-    Questions questions;
-    Started() {
-        questions.AnswerFor(window);
-        window.PauseLimit = 0;
-        window.Start();
-        window.show();
-    }
-    template <typename T>
-    T* Find(const char* name) {
-        return window.findChild<T*>(name);
-    }
+struct Started : StartedWindow {
     std::string Label(const char* name) { return Find<QLabel>(name)->text().toStdString(); }
 };
 

@@ -31,21 +31,11 @@ const std::string CaptureLayout = LayoutText({
     "H.....H",
 });
 
-struct Playing {
-    ProgramFolder folder;
-    MainWindow window{folder.Path()};
-    Questions questions;
-    Playing() {
-        questions.AnswerFor(window);
-        window.PauseLimit = 0;
-        window.Start();
-        window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
-    }
+struct Playing : StartedWindow {
     Game& g() { return window.game(); }
     ui::BoardPicture* board() { return window.Board(); }
-    QListWidget* List(const char* name) { return window.findChild<QListWidget*>(name); }
-    QPushButton* Button(const char* name) { return window.findChild<QPushButton*>(name); }
+    QListWidget* List(const char* name) { return Find<QListWidget>(name); }
+    QPushButton* Button(const char* name) { return Find<QPushButton>(name); }
     int LogLinesContaining(const std::string& part) {
         const auto lines = Lines(List("EventLog"));
         return static_cast<int>(std::count_if(lines.begin(), lines.end(), [&](const std::string& l) {
