@@ -95,6 +95,7 @@ struct Game {
     bool Check1 = true;          // "Computer Moves Auto after User Move"
     bool Check2 = false;         // recording the moves log
     bool EditorOn = false;       // the layout editor's palette Picture2 is visible
+    Grid<int> EditorGrid;        // the layout editor's position: board codes, 99 the King
     bool BoardEnabled = true;    // Picture1 takes pointer input; false once a game ends
     bool Ending = false;         // the program is ending
     std::array<int, 2> TurnCounts{0, 0};
