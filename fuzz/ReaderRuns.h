@@ -1,0 +1,362 @@
+#pragma once
+// Each reader of outside data driven on one input the way the program drives
+// it, followed by the checks of what that reader promises (docs/readers.md).
+// A run answers "" when all is well, else what went wrong. The fuzzing
+// harnesses abort on an answer; the engine test that replays the kept inputs
+// (tests/data/fuzz/<reader>/ and the seed corpora) expects "" for each.
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <deque>
+#include <limits>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/Board.h"
+#include "core/Game.h"
+#include "core/VbText.h"
+#include "fuzz/FuzzView.h"
+#include "records/ColourScheme.h"
+#include "records/Configuration.h"
+#include "records/LayoutFile.h"
+#include "records/Layouts.h"
+#include "records/MovesLog.h"
+#include "records/PositionRecord.h"
+#include "records/TextFile.h"
+
+namespace jv::fuzz {
+
+// The 7x7 layout the runs start from (pattern1.txt): King on D4.
+inline constexpr std::string_view StartLayout = "07070404HEE1EEHEEE1EEEEEE0EEE1100011EEE0EEEEEE1EEEHEE1EEH";
+
+// A game with a quiet view in the scratch folder.
+struct ScratchGame {
+    Game g;
+    QuietView view;
+    ScratchGame() {
+        g.View = &view;
+        g.ProgramFolder = ScratchFolder();
+        BuildColumnLetters(g);
+    }
+    ScratchGame(const ScratchGame&) = delete;
+    ScratchGame& operator=(const ScratchGame&) = delete;
+};
+
+// The lines of a text as the program reads a file: split at LF, one CR
+// before it dropped, no line after a final LF.
+inline std::vector<std::string> SplitLines(std::string_view text) {
+    std::vector<std::string> lines;
+    std::size_t start = 0;
+    while (start < text.size()) {
+        std::size_t end = text.find('\n', start);
+        if (end == std::string_view::npos) end = text.size();
+        std::string line(text.substr(start, end - start));
+        if (!line.empty() && line.back() == '\r') line.pop_back();
+        lines.push_back(line);
+        start = end + 1;
+    }
+    return lines;
+}
+
+// Characters from..from+count of a text, as much of them as there is.
+inline std::string_view Part(std::string_view text, std::size_t from, std::size_t count) {
+    return from >= text.size() ? std::string_view() : text.substr(from, count);
+}
+
+// The square code of a position-record letter, or false for any other byte.
+inline bool LetterCode(char letter, int& code) {
+    switch (letter) {
+        case 'H': code = HomeCode; return true;
+        case 'E': code = EmptyCode; return true;
+        case '0': code = DefenderCode; return true;
+        case '1': code = AttackerCode; return true;
+        default: return false;
+    }
+}
+
+// What any position on the board must be, whatever file it came from: a size
+// the tables take, the King's square within them, only the four codes on the
+// squares, Home in the corners and on the frame, and a layout line that reads
+// back to itself.
+inline std::string PositionProblem(const Game& g) {
+    const int w = g.BoardWidth, h = g.BoardHeight;
+    if (w < 0 || h < 0 || w > MaxBoardSide || h > MaxBoardSide) return "board size out of range";
+    if (g.KingCol < 0 || g.KingRow < 0 || g.KingCol > MaxBoardSide || g.KingRow > MaxBoardSide)
+        return "King's square out of range";
+    for (int col = 0; col <= w + 1; ++col)
+        for (int row = 0; row <= h + 1; ++row) {
+            const int code = g.Board(col, row);
+            const bool frame = col == 0 || row == 0 || col == w + 1 || row == h + 1;
+            if ((frame || IsCorner(g, col, row)) && code != HomeCode) return "frame or corner not Home";
+            if (!frame && code != HomeCode && code != EmptyCode && code != DefenderCode && code != AttackerCode)
+                return "a square holds an unknown code";
+        }
+    ScratchGame copy;
+    const std::string line = LayoutLine(g);
+    if (ApplyLayoutLine(copy.g, line)) return "its own layout line is refused";
+    if (LayoutLine(copy.g) != line) return "its layout line does not read back the same";
+    return "";
+}
+
+// ReadLayoutFile on a file holding the input, over the start layout.
+inline std::string RunLayoutFile(std::string_view input) {
+    ScratchGame s;
+    Game& g = s.g;
+    ApplyLayoutLine(g, std::string(StartLayout));
+    const std::string before = LayoutLine(g);
+    const bool failed = ReadLayoutFile(g, WriteScratchFile("layout.txt", input));
+
+    const std::vector<std::string> lines = SplitLines(input);
+    const std::string line = lines.empty() ? std::string() : lines.front();
+    const int w = ValInt(Part(line, 0, 2)), h = ValInt(Part(line, 2, 2));
+    const bool playable = w >= 0 && h >= 0 && w <= MaxBoardSide && h <= MaxBoardSide;
+    if (failed == playable) return failed ? "a playable layout was refused" : "an unplayable size was taken";
+    if (failed) return LayoutLine(g) == before ? "" : "a refused layout changed the board";
+
+    if (g.BoardWidth != w || g.BoardHeight != h) return "the board size is not the file's";
+    if (g.KingCol != std::clamp(ValInt(Part(line, 4, 2)), 0, MaxBoardSide) ||
+        g.KingRow != std::clamp(ValInt(Part(line, 6, 2)), 0, MaxBoardSide))
+        return "the King's square is not the file's";
+    // Square k (column by column) takes letter k of the record; a square
+    // whose letter is missing or unknown stays empty on the fresh board.
+    for (int col = 1; col <= w; ++col)
+        for (int row = 1; row <= h; ++row) {
+            const std::size_t k = static_cast<std::size_t>((col - 1) * h + row);
+            int code = EmptyCode;
+            if (k + 7 < line.size()) LetterCode(line[k + 7], code);
+            if (IsCorner(g, col, row)) code = HomeCode;
+            if (g.Board(col, row) != code) return "square " + SquareName(g, col, row) + " is not the file's";
+        }
+    for (int col = -1; col <= w + 1; ++col)
+        for (int row = -1; row <= h + 1; ++row)
+            if (g.SquareWeight(col, row) != 10) return "a square weight is not 10";
+    return PositionProblem(g);
+}
+
+// ApplyPositionRecord of the input's third byte on over a board whose size
+// the first two bytes choose, filled beforehand with pieces of every kind.
+inline std::string RunPositionRecord(std::string_view input) {
+    if (input.size() < 2) return "";
+    ScratchGame s;
+    Game& g = s.g;
+    const int w = static_cast<unsigned char>(input[0]) % (MaxBoardSide + 1);
+    const int h = static_cast<unsigned char>(input[1]) % (MaxBoardSide + 1);
+    const std::string record(input.substr(2));
+    NewBoard(g, w, h);
+    constexpr std::array<int, 3> Codes{EmptyCode, DefenderCode, AttackerCode};
+    for (int col = 1; col <= w; ++col)
+        for (int row = 1; row <= h; ++row) g.Board(col, row) = Codes[static_cast<std::size_t>((col + 2 * row) % 3)];
+    g.KingCol = w / 2 + 1;
+    g.KingRow = h / 2 + 1;
+    const Grid<std::int32_t> before = g.Board;
+
+    ApplyPositionRecord(g, record);
+
+    if (g.KingCol != std::clamp(ValInt(Part(record, 0, 2)), 0, MaxBoardSide) ||
+        g.KingRow != std::clamp(ValInt(Part(record, 2, 2)), 0, MaxBoardSide))
+        return "the King's square is not the record's";
+    // A known letter sets its square; an unknown or missing one leaves the
+    // square as it was; the corners are Home whatever the record says.
+    for (int col = 1; col <= w; ++col)
+        for (int row = 1; row <= h; ++row) {
+            const std::size_t k = static_cast<std::size_t>((col - 1) * h + row);
+            int code = before(col, row);
+            if (k + 3 < record.size()) LetterCode(record[k + 3], code);
+            if (IsCorner(g, col, row)) code = HomeCode;
+            if (g.Board(col, row) != code) return "square " + SquareName(g, col, row) + " is not the record's";
+        }
+    return PositionProblem(g);
+}
+
+// The configuration a defaults file holds for a game with the initial
+// ShowLabels, ColourMode and fifth setting (1, 0, 0).
+inline constexpr std::string_view DefaultConfiguration =
+    "xp.col\r\npatf.txt\r\nplayer00.ico\r\nplayer10.ico\r\nhome0.ico\r\nking0.ico\r\n"
+    "32768 128 8421504 0\r\n0 1 1 0 0\r\n";
+
+inline bool SameSettings(const Game& a, const Game& b) {
+    return a.SchemeFile == b.SchemeFile && a.LayoutFile == b.LayoutFile && a.PictureFiles == b.PictureFiles &&
+           a.PieceColours == b.PieceColours && a.BoardStyle == b.BoardStyle && a.SquareGap == b.SquareGap &&
+           a.ShowLabels == b.ShowLabels && a.ColourMode == b.ColourMode && a.ColourTable == b.ColourTable;
+}
+
+// ReadConfiguration of a jarlsvakt.cfg holding the input.
+inline std::string RunConfiguration(std::string_view input) {
+    WriteScratchFile("patf.txt", std::string(StartLayout) + "\r\n");
+    const std::string path = WriteScratchFile("jarlsvakt.cfg", input);
+    ScratchGame s;
+    Game& g = s.g;
+    ReadConfiguration(g, "jarlsvakt.cfg");
+    if (s.view.Shows != 0) return "reading showed a message: " + s.view.LastText;
+
+    const std::string after = ReadWholeFile(path);
+    if (after != input && after != DefaultConfiguration) return "the file was rewritten with other than the defaults";
+    if (after == input && after != DefaultConfiguration && SplitLines(input).size() < 8)
+        return "a file of fewer than eight lines was kept";
+    if (Trim(g.SchemeFile).empty()) return "the scheme name is blank";
+    if (g.LayoutFile != "patf.txt" && !FileExists(InProgramFolder(g, g.LayoutFile)))
+        return "the layout names a missing file";
+
+    // Whatever the first reading left on disk reads back as it stands.
+    ScratchGame again;
+    ReadConfiguration(again.g, "jarlsvakt.cfg");
+    if (ReadWholeFile(path) != after) return "a second reading rewrote the file";
+    if (!SameSettings(g, again.g)) return "a second reading gave other settings";
+    return "";
+}
+
+// LoadColourScheme and FillSchemeList on an all.col holding the input after
+// its first line; the first line is the scheme asked for. Then every listed
+// name is loaded as the options dialog would load it.
+inline std::string RunColourScheme(std::string_view input) {
+    const std::size_t lf = input.find('\n');
+    std::string name(input.substr(0, lf));
+    if (!name.empty() && name.back() == '\r') name.pop_back();
+    const std::string_view file = lf == std::string_view::npos ? std::string_view() : input.substr(lf + 1);
+    WriteScratchFile("all.col", file);
+    const std::vector<std::string> lines = SplitLines(file);
+
+    ScratchGame s;
+    Game& g = s.g;
+    // A mark no scheme can give (colours have a clear top byte).
+    for (std::size_t i = 0; i < g.ColourTable.size(); ++i) g.ColourTable[i] = 0x7F000000 + static_cast<int>(i);
+    const auto marked = g.ColourTable;
+    g.SchemeFile = "before.col";
+
+    const std::vector<std::string> names = FillSchemeList(g);
+    const auto headers = std::count_if(lines.begin(), lines.end(),
+                                       [](const std::string& l) { return l.find(".col") != std::string::npos; });
+    if (static_cast<std::ptrdiff_t>(names.size()) != headers) return "the list does not have one name per header";
+    for (const std::string& n : names)
+        if (n.find(".col") != std::string::npos) return "a listed name holds .col";
+
+    const bool found = LoadColourScheme(g, name);
+    const auto header = std::find(lines.begin(), lines.end(), name);
+    if (found != (header != lines.end())) return "the scheme was found where it is not, or missed";
+    if (!found) {
+        if (g.ColourTable != marked) return "a scheme not found changed the colours";
+        if (g.SchemeFile != "xp.col") return "a scheme not found did not fall back to xp.col";
+        if (s.view.LastText != "Colour Scheme: " + name + " not found") return "wrong message for a missing scheme";
+        return "";
+    }
+    const std::size_t loaded = std::min<std::size_t>(13, static_cast<std::size_t>(lines.end() - header - 1));
+    for (std::size_t i = 0; i < g.ColourTable.size(); ++i) {
+        const bool colour = (g.ColourTable[i] & 0x7F000000) == 0;
+        if (colour != (i < loaded)) return "colour table entry " + std::to_string(i) + " loaded wrongly";
+    }
+    if (s.view.Shows != 0) return "a found scheme showed a message";
+    if (g.SchemeFile != "before.col") return "a found scheme changed the scheme name";
+
+    for (std::size_t i = 0; i < names.size() && i < 16; ++i) LoadColourScheme(g, names[i] + ".col");
+    return "";
+}
+
+// The answers to the message box from a script line: 'y' Yes, 'c' Cancel,
+// any other character No.
+inline std::deque<int> ScriptedAnswers(std::string_view script) {
+    std::deque<int> answers;
+    for (char c : script) answers.push_back(c == 'y' || c == 'Y' ? 6 : c == 'c' || c == 'C' ? 2 : 7);
+    return answers;
+}
+
+// ReplayCommand on a moves log holding the input after its first line; the
+// first line scripts the answers to the step questions (then No to all).
+inline std::string RunMovesLog(std::string_view input) {
+    const std::size_t lf = input.find('\n');
+    const std::string_view script = input.substr(0, lf);
+    const std::string_view log = lf == std::string_view::npos ? std::string_view() : input.substr(lf + 1);
+    WriteScratchFile("patf.txt", std::string(StartLayout) + "\r\n");
+    WriteScratchFile("fuzzlog.txt", log);
+
+    ScratchGame s;
+    Game& g = s.g;
+    LoadLayout(g, "patf.txt");
+    g.Board(2, 2) = AttackerCode;   // a game in progress, not the layout file
+    const std::string before = LayoutLine(g);
+    s.view.Shows = 0;
+    s.view.Answers = ScriptedAnswers(script);
+    s.view.DefaultAnswer = 7;
+    s.view.FileChoice = "fuzzlog.txt";
+
+    ReplayCommand(g);
+
+    const std::string problem = PositionProblem(g);
+    if (!problem.empty()) return problem;
+    if (!g.Undo.empty()) return "the undo history is not empty after a replay";
+    const std::size_t n = SplitLines(log).size();
+    if (n == 0) {
+        if (s.view.LastText != "No layouts in the Moves Log File:\r\nfuzzlog.txtvbcritical+vbok")
+            return "an empty log was not reported";
+        return LayoutLine(g) == before && g.LayoutFile == "patf.txt" ? "" : "an empty log changed the game";
+    }
+    if (s.view.Shows < 1 || static_cast<std::size_t>(s.view.Shows) > n + 1) return "wrong number of questions";
+    const bool stopped = s.view.LastStyle == "vbquestion+vbYesNoCancel" && s.view.LastAnswer == 6;
+    if (stopped) return g.LayoutFile == "fuzzlog.txt" || g.LayoutFile == "patf.txt" ? "" : "stopped on a stranger";
+    if (g.LayoutFile != g.ProgramFolder + "templayout.txt") return "the replay did not end on templayout.txt";
+    return LayoutLine(g) == before ? "" : "the game before the replay did not come back";
+}
+
+// Val and ValInt: never NaN, blanks in front and a non-digit behind change
+// nothing, and a short whole number reads as itself.
+inline std::string RunVal(std::string_view input) {
+    const double v = Val(input);
+    if (std::isnan(v)) return "Val gave NaN";
+    const std::string text(input);
+    if (ValInt(" \t " + text) != ValInt(text)) return "leading blanks changed ValInt";
+    const double after = Val(text + "x");
+    if (!(after == v)) return "a trailing letter changed Val";
+    std::size_t i = text.find_first_not_of(" \t");
+    if (i == std::string::npos) return v == 0 ? "" : "a blank text is not 0";
+    std::size_t digits = i + (text[i] == '-' || text[i] == '+');
+    std::size_t end = digits;
+    while (end < text.size() && end - digits < 10 && text[end] >= '0' && text[end] <= '9') ++end;
+    const bool whole = end > digits && end - digits <= 9 && (end == text.size() || (text[end] != '.' && (text[end] < '0' || text[end] > '9')));
+    if (whole && v != static_cast<double>(std::strtol(text.c_str() + i, nullptr, 10)))
+        return "a whole number did not read as itself";
+    if (whole && ValInt(text) != std::strtol(text.c_str() + i, nullptr, 10)) return "ValInt differs on a whole number";
+    // More than ten digits, the first not 0, is beyond 32 bits however many
+    // there are: ValInt saturates.
+    std::size_t run = digits;
+    while (run < text.size() && text[run] >= '0' && text[run] <= '9') ++run;
+    if (run - digits > 10 && text[digits] != '0' &&
+        ValInt(text) != (text[i] == '-' ? std::numeric_limits<std::int32_t>::min() : std::numeric_limits<std::int32_t>::max()))
+        return "ValInt of a long number did not saturate";
+    return "";
+}
+
+// The readers by name, the name being the folder of their kept inputs.
+struct Reader {
+    const char* Name;
+    std::string (*Run)(std::string_view);
+};
+
+inline const std::array<Reader, 6>& Readers() {
+    static const std::array<Reader, 6> readers{{{"layout_file", RunLayoutFile},
+                                                {"position_record", RunPositionRecord},
+                                                {"configuration", RunConfiguration},
+                                                {"colour_scheme", RunColourScheme},
+                                                {"moves_log", RunMovesLog},
+                                                {"val", RunVal}}};
+    return readers;
+}
+
+// For a harness: stops the run with the problem when there is one.
+inline void Expect(const std::string& problem) {
+    if (problem.empty()) return;
+    std::fprintf(stderr, "reader check failed: %s\n", problem.c_str());
+    std::abort();
+}
+
+}  // namespace jv::fuzz
+
+// The entry point of a harness that drives one reader run.
+#define JARLSVAKT_FUZZ_TARGET(run)                                                           \
+    extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {   \
+        jv::fuzz::Expect(run(std::string_view(reinterpret_cast<const char*>(data), size))); \
+        return 0;                                                                           \
+    }
