@@ -46,7 +46,9 @@ double Val(std::string_view text) {
 }
 
 long long RoundHalfEven(double x) {
-    if (!std::isfinite(x)) return 0;
+    // Infinity (Val of a number of more than 308 digits) is too large like
+    // any other and saturates below; only NaN has no whole number.
+    if (std::isnan(x)) return 0;
     const double r = std::nearbyint(x);   // the default rounding mode is half to even
     constexpr double limit = 9.0e18;
     if (r > limit) return static_cast<long long>(limit);

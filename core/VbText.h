@@ -17,7 +17,8 @@ std::string Str(long long n);
 double Val(std::string_view text);
 // Val rounded half to even to a 32-bit whole number (saturating).
 std::int32_t ValInt(std::string_view text);
-// Rounding half to even: 2.5 -> 2, 3.5 -> 4, -2.5 -> -2.
+// Rounding half to even: 2.5 -> 2, 3.5 -> 4, -2.5 -> -2; beyond +-9e18
+// (infinity too) it saturates there, and NaN gives 0.
 long long RoundHalfEven(double x);
 // Blanks removed from both ends.
 std::string Trim(std::string_view text);
