@@ -103,6 +103,26 @@ inline std::string PositionProblem(const Game& g) {
     return "";
 }
 
+// The King's square and the squares of a record applied over the board
+// before: characters 1-4 are the King's square, held within 0..14; square k
+// (column by column) takes character 4+k when it is one of the four letters
+// and keeps its code otherwise; the corners are Home whatever the record says.
+inline std::string RecordProblem(const Game& g, std::string_view record, const Grid<std::int32_t>& before) {
+    if (g.KingCol != std::clamp(ValInt(Part(record, 0, 2)), 0, MaxBoardSide) ||
+        g.KingRow != std::clamp(ValInt(Part(record, 2, 2)), 0, MaxBoardSide))
+        return "the King's square is not the record's";
+    const int h = g.BoardHeight;
+    for (int col = 1; col <= g.BoardWidth; ++col)
+        for (int row = 1; row <= h; ++row) {
+            const std::size_t k = static_cast<std::size_t>((col - 1) * h + row);
+            int code = before(col, row);
+            if (k + 3 < record.size()) LetterCode(record[k + 3], code);
+            if (IsCorner(g, col, row)) code = HomeCode;
+            if (g.Board(col, row) != code) return "square " + SquareName(g, col, row) + " is not the record's";
+        }
+    return "";
+}
+
 // ReadLayoutFile on a file holding the input, over the start layout.
 inline std::string RunLayoutFile(std::string_view input) {
     ScratchGame s;
@@ -119,27 +139,19 @@ inline std::string RunLayoutFile(std::string_view input) {
     if (failed) return LayoutLine(g) == before ? "" : "a refused layout changed the board";
 
     if (g.BoardWidth != w || g.BoardHeight != h) return "the board size is not the file's";
-    if (g.KingCol != std::clamp(ValInt(Part(line, 4, 2)), 0, MaxBoardSide) ||
-        g.KingRow != std::clamp(ValInt(Part(line, 6, 2)), 0, MaxBoardSide))
-        return "the King's square is not the file's";
-    // Square k (column by column) takes letter k of the record; a square
-    // whose letter is missing or unknown stays empty on the fresh board.
-    for (int col = 1; col <= w; ++col)
-        for (int row = 1; row <= h; ++row) {
-            const std::size_t k = static_cast<std::size_t>((col - 1) * h + row);
-            int code = EmptyCode;
-            if (k + 7 < line.size()) LetterCode(line[k + 7], code);
-            if (IsCorner(g, col, row)) code = HomeCode;
-            if (g.Board(col, row) != code) return "square " + SquareName(g, col, row) + " is not the file's";
-        }
+    // The record goes onto a fresh board, all of whose squares are empty.
+    Grid<std::int32_t> empty;
+    empty.Fill(EmptyCode);
+    const std::string problem = RecordProblem(g, Part(line, 4, std::string_view::npos), empty);
+    if (!problem.empty()) return problem;
     for (int col = -1; col <= w + 1; ++col)
         for (int row = -1; row <= h + 1; ++row)
             if (g.SquareWeight(col, row) != 10) return "a square weight is not 10";
     return PositionProblem(g);
 }
 
-// ApplyPositionRecord of the input's third byte on over a board whose size
-// the first two bytes choose, filled beforehand with pieces of every kind.
+// ApplyPositionRecord of the input from its third byte on, over a board whose
+// size the first two bytes choose, filled beforehand with pieces of every kind.
 inline std::string RunPositionRecord(std::string_view input) {
     if (input.size() < 2) return "";
     ScratchGame s;
@@ -157,19 +169,8 @@ inline std::string RunPositionRecord(std::string_view input) {
 
     ApplyPositionRecord(g, record);
 
-    if (g.KingCol != std::clamp(ValInt(Part(record, 0, 2)), 0, MaxBoardSide) ||
-        g.KingRow != std::clamp(ValInt(Part(record, 2, 2)), 0, MaxBoardSide))
-        return "the King's square is not the record's";
-    // A known letter sets its square; an unknown or missing one leaves the
-    // square as it was; the corners are Home whatever the record says.
-    for (int col = 1; col <= w; ++col)
-        for (int row = 1; row <= h; ++row) {
-            const std::size_t k = static_cast<std::size_t>((col - 1) * h + row);
-            int code = before(col, row);
-            if (k + 3 < record.size()) LetterCode(record[k + 3], code);
-            if (IsCorner(g, col, row)) code = HomeCode;
-            if (g.Board(col, row) != code) return "square " + SquareName(g, col, row) + " is not the record's";
-        }
+    const std::string problem = RecordProblem(g, record, before);
+    if (!problem.empty()) return problem;
     return PositionProblem(g);
 }
 
