@@ -17,10 +17,6 @@ namespace jv {
 
 namespace {
 
-constexpr std::array<const char*, 4> DefaultPictures{"player00.ico", "player10.ico", "home0.ico", "king0.ico"};
-// QBColor(2) green, QBColor(4) dark red, QBColor(8) grey, QBColor(0) black.
-constexpr std::array<std::int32_t, 4> DefaultPieceColours{32768, 128, 8421504, 0};
-
 bool IsBlank(char c) { return c == ' ' || c == '\t'; }
 
 // List input on one line: a text field ends at a comma or the line end and

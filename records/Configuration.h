@@ -1,9 +1,18 @@
 #pragma once
+#include <array>
+#include <cstdint>
 #include <string>
 
 #include "core/Game.h"
 
 namespace jv {
+
+// The default symbol pictures (User, Computer, Home, King) and piece
+// colours: QBColor(2) green, QBColor(4) dark red, QBColor(8) grey,
+// QBColor(0) black.
+inline constexpr std::array<const char*, 4> DefaultPictures{"player00.ico", "player10.ico", "home0.ico",
+                                                            "king0.ico"};
+inline constexpr std::array<std::int32_t, 4> DefaultPieceColours{32768, 128, 8421504, 0};
 
 // Reads the configuration file into the game's settings; a file that cannot
 // be read whole is rewritten with the defaults.

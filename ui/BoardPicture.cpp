@@ -36,7 +36,7 @@ bool BoardPicture::FitToWidget() {
 void BoardPicture::DrawBoard() {
     pictures_.Load(g_);
     FitToWidget();
-    ui::DrawBoard({g_, geometry_, pictures_, pixmap_});
+    ui::DrawBoard({Shown(), geometry_, pictures_, pixmap_});
     update();
 }
 

@@ -2,6 +2,7 @@
 #include <QPixmap>
 #include <QPoint>
 #include <QWidget>
+#include <memory>
 
 #include "core/Game.h"
 #include "ui/BoardGeometry.h"
@@ -42,6 +43,9 @@ public:
 signals:
     // The hint for the square under the pointer ("" off the board).
     void HintChanged(const QString& hint);
+    // While the layout editor is on: the pointer was pressed on a square, or
+    // swept onto another with the button held.
+    void EditorSquarePressed(int a, int b);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -60,6 +64,12 @@ private:
     void HighlightReach(int a, int b);
     void PaintOverlay(QPainter& p);
 
+    // The layout editor (BoardEditing.cpp): while it is on, the picture shows
+    // the editor's position, and the pointer places pieces instead of moving them.
+    const Game& Shown();
+    void EditorPress(Square square);
+    void EditorSweep(Square square);
+
     Game& g_;
     QPixmap pixmap_;
     BoardGeometry geometry_;
@@ -75,6 +85,10 @@ private:
     int carriedCode_ = -1;
     Square hover_;
     Square hinted_;
+    // The editor's position as drawn, and the last square the pointer placed on.
+    std::unique_ptr<Game> editorShown_;
+    Square placed_;
+    bool sweeping_ = false;
 };
 
 }  // namespace jv::ui

@@ -1,6 +1,7 @@
 // The board's pointer handling: pressing on a defender or the King picks it
 // up and shows the squares it can reach, the marker carries it after the
-// pointer, and releasing drops it through the game's pointer rules.
+// pointer, and releasing drops it through the game's pointer rules. While
+// the layout editor is on, presses go to the editor instead.
 #include <QMouseEvent>
 
 #include "core/Pointer.h"
@@ -18,7 +19,7 @@ Square BoardPicture::SquareUnder(QPoint position) const {
 void BoardPicture::ShowHint(Square square) {
     if (square.Col == hinted_.Col && square.Row == hinted_.Row) return;
     hinted_ = square;
-    const QString hint = QString::fromStdString(PointerHint(g_, square.Col, square.Row));
+    const QString hint = QString::fromStdString(PointerHint(Shown(), square.Col, square.Row));
     setToolTip(hint);
     emit HintChanged(hint);
 }
@@ -26,6 +27,7 @@ void BoardPicture::ShowHint(Square square) {
 void BoardPicture::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton || dragging_) return;
     const Square square = SquareUnder(event->position().toPoint());
+    if (g_.EditorOn) return EditorPress(square);
     if (square.Col == -1 || !BeginDrag(g_, square.Col, square.Row)) return;
     dragging_ = true;
     carriedCode_ = DrawCode(g_, square.Col, square.Row);
@@ -39,6 +41,7 @@ void BoardPicture::mouseMoveEvent(QMouseEvent* event) {
     const Square square = SquareUnder(at);
     g_.PointerSquare = square;
     ShowHint(square);
+    if (g_.EditorOn && (event->buttons() & Qt::LeftButton)) return EditorSweep(square);
     if (!dragging_) return;
     lineTo_ = markerAt_ = at;
     hover_ = AcceptsDrop(g_, square.Col, square.Row) ? square : Square{};
@@ -46,6 +49,7 @@ void BoardPicture::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void BoardPicture::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton) sweeping_ = false;
     if (event->button() != Qt::LeftButton || !dragging_) return;
     dragging_ = false;
     carriedCode_ = -1;

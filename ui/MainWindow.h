@@ -21,6 +21,7 @@ class QTimer;
 namespace jv::ui {
 
 class BoardPicture;
+class EditorPalette;
 class LineList;
 
 // The text of the "CheckKingCapture" debug button's message: the capture
@@ -101,6 +102,13 @@ private:
     void ConnectDebugButtons();
     void ShowHelp();
     void ShowAbout();
+    // The options dialog (Form2), and what its Apply changes in the window:
+    // the scheme loaded again, the colours and pictures applied, the board
+    // redrawn, all at once.
+    void ShowOptions();
+    void ApplyOptions();
+    // Places the palette's chosen kind on a square of the layout editor.
+    void PlaceInEditor(int col, int row);
     void PreviewListMove(ListId list);
 
     void ApplyWindowColours();
@@ -110,7 +118,7 @@ private:
 
     Game game_;
     BoardPicture* picture_ = nullptr;
-    QWidget* picture2_ = nullptr;
+    EditorPalette* picture2_ = nullptr;
     LineList* eventLog_ = nullptr;
     std::map<ListId, QListWidget*> lists_;
     QLabel* layoutName_ = nullptr;

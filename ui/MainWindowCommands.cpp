@@ -13,12 +13,15 @@
 #include "ai/DefenderRank.h"
 #include "ai/KingRoutes.h"
 #include "core/Board.h"
+#include "core/LayoutEditor.h"
 #include "core/Move.h"
 #include "core/Session.h"
 #include "core/VbText.h"
 #include "records/Layouts.h"
 #include "records/MovesLog.h"
 #include "records/Undo.h"
+#include "ui/BoardPicture.h"
+#include "ui/EditorPalette.h"
 #include "ui/MainWindow.h"
 #include "ui/widgets/HelpViewer.h"
 
@@ -36,12 +39,14 @@ void MainWindow::ConnectCommands() {
     onClick("cmdreset", [this] { ResetCommand(game_); });
     onClick("cmdundo", [this] { UndoCommand(game_); });
     onClick("cmdloadlog", [this] { ReplayCommand(game_); });
+    onClick("cmdedit", [this] { EditorCommand(game_); });
     onClick("cmdexit", [this] { ExitCommand(game_); });
     onClick("Command12", [this] { AutoGame(game_); });
     onMenu("mnuloadgame", [this] { LoadCommand(game_); });
     onMenu("mnusavegame", [this] { SaveCommand(game_); });
     onMenu("mnuresetgame", [this] { ResetCommand(game_); });
     onMenu("mnuexit", [this] { ExitCommand(game_); });
+    onMenu("mnuoptions", [this] { ShowOptions(); });
     onMenu("mnuhelp", [this] { ShowHelp(); });
     onMenu("mnuabout", [this] { ShowAbout(); });
 
@@ -57,6 +62,7 @@ void MainWindow::ConnectCommands() {
     });
     for (ListId id : {ListId::List1A, ListId::List1D})
         connect(lists_.at(id), &QListWidget::pressed, this, [this, id] { PreviewListMove(id); });
+    connect(picture_, &BoardPicture::EditorSquarePressed, this, &MainWindow::PlaceInEditor);
     ConnectDebugButtons();
 }
 
@@ -100,6 +106,10 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
         EndListMovePreview(game_);
     }
     return QMainWindow::eventFilter(watched, event);
+}
+
+void MainWindow::PlaceInEditor(int col, int row) {
+    if (jv::PlaceInEditor(game_, col, row, picture2_->Kind())) picture_->DrawBoard();
 }
 
 void MainWindow::ShowHelp() {

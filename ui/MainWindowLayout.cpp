@@ -19,6 +19,7 @@
 #include <QVBoxLayout>
 
 #include "ui/BoardPicture.h"
+#include "ui/EditorPalette.h"
 #include "ui/MainWindow.h"
 #include "ui/widgets/LineList.h"
 
@@ -106,9 +107,7 @@ QWidget* MainWindow::BuildCommandColumn() {
     grid->addWidget(AddButton("cmdsave", "Save...", "Save the position as a layout file"), 0, 1);
     grid->addWidget(AddButton("cmdreset", "Reset", "Start the current layout again"), 1, 0);
     grid->addWidget(AddButton("cmdundo", "Undo", "Take back the last move"), 1, 1);
-    QPushButton* edit = AddButton("cmdedit", "Edit Layout", "Switch the layout editor on or off");
-    edit->setEnabled(false);   // until the layout editor joins the window
-    grid->addWidget(edit, 2, 0);
+    grid->addWidget(AddButton("cmdedit", "Edit Layout", "Switch the layout editor on or off"), 2, 0);
     grid->addWidget(AddButton("cmdloadlog", "Replay Log...", "Step through a recorded moves log"), 2, 1);
     layout->addWidget(game);
 
@@ -168,9 +167,7 @@ QWidget* MainWindow::BuildBoardArea() {
     picture_ = new BoardPicture(game_);
     layout->addWidget(picture_, 1);
     // The layout editor's palette stands beside the board at its height.
-    picture2_ = new QWidget;
-    picture2_->setObjectName("Picture2");
-    picture2_->setFixedWidth(96);
+    picture2_ = new EditorPalette(game_);
     picture2_->hide();
     layout->addWidget(picture2_);
     return area;
@@ -255,8 +252,7 @@ void MainWindow::BuildMenus() {
     connect(debugToggle_, &QAction::toggled, debugPanel_, &QWidget::setVisible);
 
     QMenu* options = menuBar()->addMenu("&Options");
-    QAction* settings = add(options, "mnuoptions", "&Options...");
-    settings->setEnabled(false);   // the options dialog is not part of this window yet
+    add(options, "mnuoptions", "&Options...");
 
     QMenu* help = menuBar()->addMenu("&Help");
     add(help, "mnuhelp", "JarlsVakt &Help", QKeySequence::HelpContents);

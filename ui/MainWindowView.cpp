@@ -3,18 +3,22 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QEventLoop>
-#include <QFileDialog>
 #include <QLabel>
 #include <QListWidget>
+#include <QPushButton>
+#include <QStatusBar>
 #include <QTimer>
 #include <algorithm>
 
 #include "ui/BoardPicture.h"
 #include "ui/ColourValue.h"
+#include "ui/EditorPalette.h"
 #include "ui/MainWindow.h"
 #include "ui/MsgForm.h"
 #include "ui/UndoLine.h"
+#include "ui/widgets/FileNameDialog.h"
 #include "ui/widgets/LineList.h"
+#include "ui/widgets/RedrawGuard.h"
 
 namespace jv::ui {
 
@@ -23,20 +27,26 @@ void MainWindow::DrawBoard() {
     picture_->DrawBoard();
 }
 
+// While the layout editor is on the picture shows the editor's position:
+// the single squares, marks and lines of the board underneath stay unseen.
 void MainWindow::DrawSquare(int col, int row, std::int32_t colour) {
-    picture_->DrawSquare(col, row, ToQColor(colour));
+    if (!game_.EditorOn) picture_->DrawSquare(col, row, ToQColor(colour));
 }
 
-void MainWindow::DrawPiece(int col, int row, int drawCode) { picture_->DrawPiece(col, row, drawCode); }
+void MainWindow::DrawPiece(int col, int row, int drawCode) {
+    if (!game_.EditorOn) picture_->DrawPiece(col, row, drawCode);
+}
 
 void MainWindow::DrawMoveMark(int fromCol, int fromRow, int toCol, int toRow) {
-    picture_->DrawMoveMark(fromCol, fromRow, toCol, toRow);
+    if (!game_.EditorOn) picture_->DrawMoveMark(fromCol, fromRow, toCol, toRow);
 }
 
-void MainWindow::MarkVictim(int col, int row) { picture_->MarkVictim(col, row); }
+void MainWindow::MarkVictim(int col, int row) {
+    if (!game_.EditorOn) picture_->MarkVictim(col, row);
+}
 
 void MainWindow::ShowDragLine(int fromCol, int fromRow, int toCol, int toRow) {
-    picture_->ShowDragLine(fromCol, fromRow, toCol, toRow);
+    if (!game_.EditorOn) picture_->ShowDragLine(fromCol, fromRow, toCol, toRow);
 }
 
 void MainWindow::HideDragLine() { picture_->HideDragLine(); }
@@ -116,26 +126,30 @@ void MainWindow::RefreshList(ListId id) {
     shown.reserve(static_cast<qsizetype>(lines->size()));
     for (std::size_t i = 0; i < lines->size(); ++i)
         shown << QString::fromStdString(id == ListId::Undo ? UndoLine(game_, *lines, i) : (*lines)[i]);
-    list->setUpdatesEnabled(false);
+    RedrawGuard hold(list);
     list->clear();
     list->addItems(shown);
-    list->setUpdatesEnabled(true);
 }
 
-void MainWindow::ShowEditor(bool visible) { picture2_->setVisible(visible); }
+void MainWindow::ShowEditor(bool visible) {
+    // The load that ends the editor draws the board before it switches the
+    // editor off; the board is drawn again once the editor's view is gone.
+    const bool closing = !visible && !picture2_->isHidden();
+    if (visible) picture2_->Paint();
+    picture2_->setVisible(visible);
+    if (closing) picture_->DrawBoard();
+    findChild<QPushButton*>("cmdedit")->setText(visible ? "Play Layout" : "Edit Layout");
+    if (visible) statusBar()->showMessage("Layout editor: choose a kind beside the board, then click squares");
+    else statusBar()->clearMessage();
+}
 
 std::string MainWindow::ChooseFile(FileMode mode, const std::string& title, const std::string& pattern,
                                    const std::string& description) {
     if (FileChooser) return FileChooser(mode, title);
-    QFileDialog dialog(this, QString::fromStdString(title), QString::fromStdString(game_.ProgramFolder),
-                       QString::fromStdString(description + " (" + pattern + ")"));
-    dialog.setOption(QFileDialog::DontUseNativeDialog);
-    // The save command asks about an existing file itself.
-    dialog.setOption(QFileDialog::DontConfirmOverwrite);
-    dialog.setAcceptMode(mode == FileMode::Open ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
-    dialog.setFileMode(mode == FileMode::Open ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return "";
-    return dialog.selectedFiles().front().toStdString();
+    return ChooseFileName(this, mode == FileMode::Save, QString::fromStdString(title),
+                          QString::fromStdString(game_.ProgramFolder),
+                          QString::fromStdString(description + " (" + pattern + ")"))
+        .toStdString();
 }
 
 }  // namespace jv::ui

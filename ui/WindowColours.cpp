@@ -1,6 +1,7 @@
 #include "ui/WindowColours.h"
 
 #include <QPalette>
+#include <QPushButton>
 #include <QWidget>
 
 #include "ui/ColourValue.h"
@@ -35,6 +36,22 @@ void ApplyColourTable(QWidget& window, const std::array<std::int32_t, 14>& table
     palette.setColor(QPalette::Disabled, QPalette::Button, face);
     palette.setColor(QPalette::Disabled, QPalette::Base, listBack);
     window.setPalette(palette);
+    ColourCommandButtons(window, CommandButtonColour(table));
+}
+
+QColor CommandButtonColour(const std::array<std::int32_t, 14>& table) {
+    return ToQColor(table[13] != 0 ? table[13] : table[1]);
+}
+
+void ColourCommandButtons(QWidget& root, const QColor& face) {
+    for (QPushButton* button : root.findChildren<QPushButton*>()) {
+        QPalette palette = button->palette();
+        for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
+            palette.setColor(group, QPalette::Button, face);
+        for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive})
+            palette.setColor(group, QPalette::ButtonText, TextColourOn(face));
+        button->setPalette(palette);
+    }
 }
 
 }  // namespace jv::ui

@@ -8,11 +8,20 @@ class QWidget;
 namespace jv::ui {
 
 // Colours the window from the colour table: entry 0 the window's
-// background, 1 the buttons and panels, 12 the lists and the event log.
+// background, 1 the buttons and panels, 12 the lists and the event log, and
+// the command buttons in their own colour (CommandButtonColour).
 // Text is dark on a light colour and light on a dark one.
 void ApplyColourTable(QWidget& window, const std::array<std::int32_t, 14>& table);
 
 // Near black or white, whichever reads better on the background.
 QColor TextColourOn(const QColor& background);
+
+// The colour of the command buttons: entry 13 of the colour table, set in
+// the options dialog ("Adjust command button colours"), or the scheme's
+// button colour (entry 1) while entry 13 is 0.
+QColor CommandButtonColour(const std::array<std::int32_t, 14>& table);
+
+// Gives every push button under root that colour, with readable text.
+void ColourCommandButtons(QWidget& root, const QColor& face);
 
 }  // namespace jv::ui
