@@ -82,8 +82,8 @@ QWidget* Form2::BuildSchemeAndStyle() {
         // Each button shows the squares its style draws.
         Game sample = g_;
         sample.BoardStyle = i;
-        option3_[i]->setIcon(QPixmap::fromImage(SquareSample(sample, pictures_, 2, -1, 44)));
-        option3_[i]->setIconSize(QSize(44, 44));
+        option3_[i]->setIcon(QPixmap::fromImage(SquareSample(sample, pictures_, 2, -1, 52)));
+        option3_[i]->setIconSize(QSize(52, 52));
         styles->addButton(option3_[i], i);
         styleLayout->addWidget(option3_[i]);
     }
@@ -152,11 +152,11 @@ QWidget* Form2::BuildSources() {
     file1_->setProperty("Pattern", FilePattern);
     file1_->setToolTip(QString("Pictures in the program's folder (%1)").arg(FilePattern));
     file1_->setIconSize(QSize(24, 24));
+    file1_->setMinimumHeight(170);
     connect(file1_, &QListWidget::itemClicked, this, &Form2::ChooseFile);
     connect(file1_, &QListWidget::itemActivated, this, &Form2::ChooseFile);
     fileNote_ = new QLabel;
     fileNote_->setObjectName("FileNote");
-    fileNote_->setWordWrap(true);
     auto* filesLayout = new QVBoxLayout;
     filesLayout->addWidget(file1_, 1);
     filesLayout->addWidget(fileNote_);
@@ -176,8 +176,9 @@ QWidget* Form2::BuildSources() {
     });
     auto* colourLayout = new QVBoxLayout;
     colourLayout->addWidget(colPik1_);
-    colourLayout->addStretch(1);
+    colourLayout->addSpacing(8);
     colourLayout->addWidget(adjust);
+    colourLayout->addStretch(1);
 
     auto* row = new QWidget;
     auto* layout = new QHBoxLayout(row);
@@ -241,18 +242,19 @@ void Form2::SelectFrame(int frame) {
     colPik1_->SetColour(FrameColour(frame_));
     const auto found = file1_->findItems(image_[frame_]->Tag(), Qt::MatchFixedString);
     file1_->setCurrentItem(found.isEmpty() ? nullptr : found.front());
-    fileNote_->setText(QString("Setting the %1 symbol and colour").arg(FrameCaptions[frame_]));
+    if (!found.isEmpty()) file1_->scrollToItem(found.front());
+    fileNote_->setText(QString("Symbol for %1: click a file").arg(FrameCaptions[frame_]));
 }
 
 void Form2::ChooseFile(QListWidgetItem* item) {
     if (item == nullptr) return;
     const QString name = item->text();
     if (ReadPicture(InProgramFolder(g_, name.toStdString())).isNull()) {
-        fileNote_->setText(name + " is not a picture this program can show");
+        fileNote_->setText(name + ": cannot be shown");
         return;
     }
     SetSymbol(frame_, name);
-    fileNote_->setText(QString("%1 symbol: %2").arg(FrameCaptions[frame_], name));
+    fileNote_->setText(QString("%1: %2").arg(FrameCaptions[frame_], name));
 }
 
 void Form2::SetSymbol(int frame, const QString& fileName) {
@@ -277,6 +279,12 @@ void Form2::SetButtonColour(std::int32_t value) {
     std::array<std::int32_t, 14> table = g_.ColourTable;
     table[13] = value;
     ColourCommandButtons(*this, CommandButtonColour(table));
+}
+
+void Form2::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    // The list has its size only now: the chosen frame's file is brought into view.
+    if (file1_->currentItem() != nullptr) file1_->scrollToItem(file1_->currentItem());
 }
 
 bool Form2::eventFilter(QObject* watched, QEvent* event) {

@@ -48,6 +48,7 @@ public:
     static constexpr const char* FilePattern = "*.ico;*.bmp;*.jpg;*.gif;*.wmf";
 
 protected:
+    void showEvent(QShowEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
