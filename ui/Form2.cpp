@@ -43,6 +43,19 @@ QGroupBox* Frame(const QString& caption, QLayout* content) {
     return frame;
 }
 
+// Widgets side by side, each with its stretch; no widget stands for empty
+// room taking the stretch.
+QWidget* Row(std::initializer_list<std::pair<QWidget*, int>> parts) {
+    auto* row = new QWidget;
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    for (const auto& [part, stretch] : parts) {
+        if (part != nullptr) layout->addWidget(part, stretch);
+        else layout->addStretch(stretch);
+    }
+    return row;
+}
+
 }  // namespace
 
 Form2::Form2(Game& game, QWidget* parent) : QDialog(parent), g_(game) {
@@ -88,12 +101,7 @@ QWidget* Form2::BuildSchemeAndStyle() {
         styleLayout->addWidget(option3_[i]);
     }
 
-    auto* row = new QWidget;
-    auto* rowLayout = new QHBoxLayout(row);
-    rowLayout->setContentsMargins(0, 0, 0, 0);
-    rowLayout->addWidget(Frame("Colour Scheme", schemeLayout), 1);
-    rowLayout->addWidget(Frame("Grid Style", styleLayout), 2);
-    return row;
+    return Row({{Frame("Colour Scheme", schemeLayout), 1}, {Frame("Grid Style", styleLayout), 2}});
 }
 
 QWidget* Form2::BuildDrawing() {
@@ -106,14 +114,8 @@ QWidget* Form2::BuildDrawing() {
     option2_ = new QRadioButton("Symbols");
     option2_->setObjectName("Option2");
     option2_->setToolTip("Draw the pieces with the four symbols below");
-    auto* row = new QWidget;
-    auto* layout = new QHBoxLayout(row);
-    layout->setContentsMargins(8, 0, 8, 0);
-    layout->addWidget(check1_);
-    layout->addStretch(1);
-    layout->addWidget(new QLabel("Pieces:"));
-    layout->addWidget(option1_);
-    layout->addWidget(option2_);
+    QWidget* row = Row({{check1_, 0}, {nullptr, 1}, {new QLabel("Pieces:"), 0}, {option1_, 0}, {option2_, 0}});
+    row->layout()->setContentsMargins(8, 0, 8, 0);
     return row;
 }
 
@@ -180,12 +182,7 @@ QWidget* Form2::BuildSources() {
     colourLayout->addWidget(adjust);
     colourLayout->addStretch(1);
 
-    auto* row = new QWidget;
-    auto* layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(Frame("Symbol Files", filesLayout), 1);
-    layout->addWidget(Frame("Colour Selector", colourLayout), 1);
-    return row;
+    return Row({{Frame("Symbol Files", filesLayout), 1}, {Frame("Colour Selector", colourLayout), 1}});
 }
 
 QWidget* Form2::BuildCommands() {
@@ -202,14 +199,7 @@ QWidget* Form2::BuildCommands() {
     connect(reset, &QPushButton::clicked, this, &Form2::Default);
     connect(apply, &QPushButton::clicked, this, &Form2::Apply);
     connect(exit, &QPushButton::clicked, this, &QDialog::reject);
-    auto* row = new QWidget;
-    auto* layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(reset);
-    layout->addStretch(1);
-    layout->addWidget(apply);
-    layout->addWidget(exit);
-    return row;
+    return Row({{reset, 0}, {nullptr, 1}, {apply, 0}, {exit, 0}});
 }
 
 void Form2::FillFileList() {
