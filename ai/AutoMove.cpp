@@ -16,7 +16,11 @@ namespace jv {
 
 namespace {
 
+// The board is given back after the computer has thought, unless its move
+// has ended the game: a finished game keeps the board closed until the next
+// layout is loaded.
 void SetBoardEnabled(Game& g, bool enabled) {
+    enabled = enabled && !g.GameOver;
     g.BoardEnabled = enabled;
     g.View->EnableBoard(enabled);
 }

@@ -39,6 +39,7 @@ void NewBoard(Game& g, int width, int height) {
     g.DragLineVisible = false;
     g.DragSource = Square{};
     g.View->HideDragLine();
+    g.GameOver = false;
     g.BoardEnabled = true;
     g.View->EnableBoard(true);
     g.List1A.clear();

@@ -17,16 +17,15 @@ double SecondsSinceMidnight() {
 
 Chance::Chance() : Timer(SecondsSinceMidnight), state_(0x50000) {}
 
-// A 24-bit linear congruential generator, reseeded by folding the bits of
-// the seed into its middle bytes.
+// A 24-bit linear congruential generator. Reseeding sets the whole state
+// from the bits of the seed, so the same seed (the same timer tick) always
+// gives the same next number.
 void Chance::Randomize(double seed) {
     std::uint64_t bits = 0;
     static_assert(sizeof bits == sizeof seed);
     std::memcpy(&bits, &seed, sizeof bits);
     const std::uint32_t folded = static_cast<std::uint32_t>(bits >> 32) ^ static_cast<std::uint32_t>(bits);
-    const std::uint32_t mixed = (folded & 0xFFFF) ^ (folded >> 16);
-    state_ = (state_ & 0xFF0000FF) | ((mixed & 0xFFFF) << 8);
-    state_ &= 0xFFFFFF;
+    state_ = (folded ^ (folded >> 24)) & 0xFFFFFF;
 }
 
 double Chance::Rnd() {

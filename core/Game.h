@@ -97,6 +97,7 @@ struct Game {
     bool EditorOn = false;       // the layout editor's palette Picture2 is visible
     Grid<int> EditorGrid;        // the layout editor's position: board codes, 99 the King
     bool BoardEnabled = true;    // Picture1 takes pointer input; false once a game ends
+    bool GameOver = false;       // the King has been captured or is at Home
     bool Ending = false;         // the program is ending
     std::array<int, 2> TurnCounts{0, 0};
     int LayoutLoadDepth = 0;     // guards LoadLayout's retry of the previous file

@@ -3,6 +3,7 @@
 #include "ai/AutoMove.h"
 #include "core/Analysis.h"
 #include "core/Board.h"
+#include "core/DrawCode.h"
 #include "core/EventLog.h"
 #include "core/GameView.h"
 #include "core/VbText.h"
@@ -14,31 +15,16 @@ namespace {
 
 const char* const ResetHint = "\r\nClick Reset to start a new game";
 
-// The board's background: entry 2 of the colour scheme.
-std::int32_t BoardBackColour(const Game& g) { return g.ColourTable[2]; }
-
-// The colour of a square's content in colour mode, by draw code.
-std::int32_t SquareColour(const Game& g, int drawCode) { return g.ColourTable[6 + drawCode]; }
-
-// What a square shows: -1 nothing, 0 defender, 1 attacker, 2 Home, 3 the
-// King (the King test comes last, so a King on a corner shows as the King).
-int DrawCode(const Game& g, int col, int row) {
-    const int code = g.Board(col, row);
-    int drawCode = code == HomeCode ? 2 : code;
-    if (col == g.KingCol && row == g.KingRow) drawCode = 3;
-    return drawCode;
-}
-
 bool IsKingSquare(const Game& g, int col, int row) { return col == g.KingCol && row == g.KingRow; }
 
 // Repaints the square a piece has arrived on.
 void RepaintDestination(Game& g, int col, int row) {
     const int drawCode = DrawCode(g, col, row);
     if (g.ColourMode == 1) {
-        g.View->DrawSquare(col, row, drawCode == EmptyCode ? BoardBackColour(g) : SquareColour(g, drawCode));
+        g.View->DrawSquare(col, row, drawCode == EmptyCode ? BoardBackColourValue(g) : SquareColour(g, drawCode));
         return;
     }
-    g.View->DrawSquare(col, row, BoardBackColour(g));
+    g.View->DrawSquare(col, row, BoardBackColourValue(g));
     if (drawCode != EmptyCode) g.View->DrawPiece(col, row, drawCode);
 }
 
@@ -47,6 +33,7 @@ void RepaintDestination(Game& g, int col, int row) {
 void EndGame(Game& g, const std::string& headline, const char* style) {
     g.View->Show(headline + ResetHint, style);
     g.View->DoEvents();
+    g.GameOver = true;
     g.BoardEnabled = false;
     g.View->EnableBoard(false);
 }
@@ -112,7 +99,7 @@ void MovePiece(Game& g, int fromCol, int fromRow, int toCol, int toRow) {
     }
     const std::string moveText = SquareName(g, fromCol, fromRow) + " > " + SquareName(g, toCol, toRow);
 
-    g.View->DrawSquare(fromCol, fromRow, BoardBackColour(g));
+    g.View->DrawSquare(fromCol, fromRow, BoardBackColourValue(g));
     RepaintDestination(g, toCol, toRow);
 
     // The colour argument tells the sides apart: 1 defenders, 2 attackers,
@@ -147,7 +134,7 @@ void CaptureAround(Game& g, int col, int row) {
         g.View->Pause(1000);
         g.Board(victimCol, victimRow) = EmptyCode;
         PrintLog(g, "  Player" + Str(mover + 1) + " captures " + SquareName(g, victimCol, victimRow), mover + 1, 0);
-        g.View->DrawSquare(victimCol, victimRow, BoardBackColour(g));
+        g.View->DrawSquare(victimCol, victimRow, BoardBackColourValue(g));
     }
 }
 

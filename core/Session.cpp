@@ -47,7 +47,7 @@ bool StartUp(Game& g, const std::function<void()>& applySettings) {
     return true;
 }
 
-bool GameFinished(const Game& g) { return !g.BoardEnabled; }
+bool GameFinished(const Game& g) { return g.GameOver; }
 
 void AutoGame(Game& g) {
     // Runs on after a game has ended: only the program's end stops it, and

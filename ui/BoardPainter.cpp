@@ -10,22 +10,11 @@
 
 namespace jv::ui {
 
-QColor BoardBackColour(const Game& g) { return ToQColor(g.ColourTable[2]); }
+QColor BoardBackColour(const Game& g) { return ToQColor(BoardBackColourValue(g)); }
 QColor GridColour(const Game& g) { return ToQColor(g.ColourTable[4]); }
-QColor SquareColours(const Game& g, int drawCode) {
-    return ToQColor(g.ColourTable[6 + std::clamp(drawCode, 0, 3)]);
-}
+QColor SquareColours(const Game& g, int drawCode) { return ToQColor(SquareColour(g, drawCode)); }
 QColor MoveMarkColour(const Game& g) { return ToQColor(g.ColourTable[10]); }
-
-int DrawCode(const Game& g, int a, int b) {
-    const int code = g.Board(a, b);
-    int draw = -1;
-    if (code == DefenderCode) draw = 0;
-    if (code == AttackerCode) draw = 1;
-    if (code == HomeCode) draw = 2;
-    if (a == g.KingCol && b == g.KingRow) draw = 3;
-    return draw;
-}
+QColor VictimMarkColour(const Game& g) { return ToQColor(g.ColourTable[9]); }
 
 namespace {
 

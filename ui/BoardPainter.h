@@ -2,6 +2,7 @@
 #include <QColor>
 #include <QPixmap>
 
+#include "core/DrawCode.h"
 #include "core/Game.h"
 #include "ui/BoardGeometry.h"
 #include "ui/PiecePictures.h"
@@ -11,12 +12,9 @@ namespace jv::ui {
 // The colours of the board, from the colour table.
 QColor BoardBackColour(const Game& g);     // entry 2: background and empty squares
 QColor GridColour(const Game& g);          // entry 4: grid lines, dark edges, labels
-QColor SquareColours(const Game& g, int drawCode);   // entries 6..9 by draw code
-QColor MoveMarkColour(const Game& g);      // entry 10: the last move and a victim
-
-// What a square shows: 0 a defender, 1 an attacker, 2 a Home square, 3 the
-// King (whatever its stored code, after the Home test), -1 nothing.
-int DrawCode(const Game& g, int a, int b);
+QColor SquareColours(const Game& g, int drawCode);   // the four piece colours by draw code
+QColor MoveMarkColour(const Game& g);      // entry 10: the last move
+QColor VictimMarkColour(const Game& g);    // entry 9: a piece about to be taken
 
 // Everything the board drawing reads and the picture it draws on.
 struct BoardCanvas {

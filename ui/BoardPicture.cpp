@@ -61,7 +61,7 @@ void BoardPicture::DrawMoveMark(int fromA, int fromB, int toA, int toB) {
 
 void BoardPicture::MarkVictim(int a, int b) {
     if (FitToWidget()) DrawBoard();
-    DrawSmallMark({g_, geometry_, pictures_, pixmap_}, a, b, MoveMarkColour(g_));
+    DrawSmallMark({g_, geometry_, pictures_, pixmap_}, a, b, VictimMarkColour(g_));
     update();
 }
 

@@ -8,6 +8,8 @@
 
 #include "core/Session.h"
 #include "ui/BoardPicture.h"
+#include "ui/ColourValue.h"
+#include "ui/widgets/LineList.h"
 #include "ui/WindowColours.h"
 
 namespace jv::ui {
@@ -50,6 +52,10 @@ void MainWindow::ApplyWindowColours() {
     coloursApplied_ = true;
     appliedColours_ = game_.ColourTable;
     ApplyColourTable(*this, game_.ColourTable);
+    // The event log tells the sides apart: the King's and the program's own
+    // lines, the defenders' lines, the attackers' lines.
+    constexpr int Entry[3] = {8, 6, 7};
+    for (int n = 0; n <= 2; ++n) eventLog_->SetLineColour(n, ToQColor(game_.ColourTable[Entry[n]]));
 }
 
 void MainWindow::EndNow() {

@@ -12,10 +12,10 @@ using Calls = std::vector<std::string>;
 
 namespace {
 // A colour table whose entries are easy to tell apart: the board's
-// background 111, the square colours 600 (defender) to 603 (King).
+// background 111, the piece colours 600 (defender) to 603 (King).
 void MarkColours(Game& g) {
     g.ColourTable[2] = 111;
-    for (int code = 0; code < 4; ++code) g.ColourTable[6 + code] = 600 + code;
+    for (int code = 0; code < 4; ++code) g.PieceColours[code] = 600 + code;   // User, Computer, Home, King
 }
 }  // namespace
 

@@ -108,8 +108,9 @@ TEST(Perft, ShippedLayoutsCountAsPinnedAndAsTheSlowCounter) {
         ReadLayout(t, row.layout);
         for (int depth = 1; depth <= 3; ++depth) {
             EXPECT_EQ(Perft(t.g, depth, row.side), row.counts[depth - 1]) << row.layout << " depth " << depth;
-            if (depth <= row.slow)
+            if (depth <= row.slow) {
                 EXPECT_EQ(SlowCount(t.g, depth, row.side), row.counts[depth - 1]) << row.layout << " depth " << depth;
+            }
         }
     }
 }

@@ -21,10 +21,11 @@ namespace {
 // Distinct colours for every table entry the board uses.
 constexpr std::int32_t Back = 0xE0E0E0;        // entry 2
 constexpr std::int32_t GridLines = 0x402010;        // entry 4: RGB(16, 32, 64)
-constexpr std::int32_t Defender = 0x00C000;    // entry 6
-constexpr std::int32_t Attacker = 0x0000C0;    // entry 7
-constexpr std::int32_t Home = 0x808080;        // entry 8
-constexpr std::int32_t King = 0xC0C000;        // entry 9
+// The four piece colours: User, Computer, Home, King.
+constexpr std::int32_t Defender = 0x00C000;
+constexpr std::int32_t Attacker = 0x0000C0;
+constexpr std::int32_t Home = 0x808080;
+constexpr std::int32_t King = 0xC0C000;
 const QColor Magenta(255, 0, 255);
 
 // An 11 by 11 board with a King, one piece of each side and its labels,
@@ -46,10 +47,7 @@ struct Drawing {
         g.ColourTable.fill(0xFFFFFF);
         g.ColourTable[2] = Back;
         g.ColourTable[4] = GridLines;
-        g.ColourTable[6] = Defender;
-        g.ColourTable[7] = Attacker;
-        g.ColourTable[8] = Home;
-        g.ColourTable[9] = King;
+        g.PieceColours = {Defender, Attacker, Home, King};
         g.Board(6, 6) = DefenderCode;
         g.KingCol = 6;
         g.KingRow = 6;

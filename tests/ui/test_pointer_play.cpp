@@ -179,7 +179,7 @@ void TestPointerPlay::CaptureIsDrawnAndLogged() {
     QCOMPARE(p.g().Board(5, 3), EmptyCode);
     QCOMPARE(p.g().Board(4, 3), DefenderCode);
     QCOMPARE(p.LogLinesContaining("  Player 1 captures E3"), 1);
-    QCOMPARE(markedVictim, ui::ToQColor(p.g().ColourTable[10]));
+    QCOMPARE(markedVictim, ui::ToQColor(p.g().ColourTable[9]));
     QCOMPARE(p.At(5, 3), background);
     QVERIFY(p.At(4, 3) != background);
     QCOMPARE(p.window.findChild<QLabel*>("ptot1")->text(), QString("1"));
