@@ -10,6 +10,7 @@ namespace jv {
 void NewBoard(Game& g, int width, int height) {
     width = std::clamp(width, 0, MaxBoardSide);
     height = std::clamp(height, 0, MaxBoardSide);
+    ++g.GameNumber;
     g.BoardWidth = width;
     g.BoardHeight = height;
     g.CentreCol = width / 2 + 1;

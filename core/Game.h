@@ -101,6 +101,9 @@ struct Game {
     bool Ending = false;         // the program is ending
     std::array<int, 2> TurnCounts{0, 0};
     int LayoutLoadDepth = 0;     // guards LoadLayout's retry of the previous file
+    // Counts the boards NewBoard has set up. A move whose pauses let a load
+    // begin a new game sees it change and stops there.
+    int GameNumber = 0;
 
     Chance Random;
     // The clock that names a new moves log; the system clock unless a test

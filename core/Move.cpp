@@ -17,6 +17,12 @@ const char* const ResetHint = "\r\nClick Reset to start a new game";
 
 bool IsKingSquare(const Game& g, int col, int row) { return col == g.KingCol && row == g.KingRow; }
 
+// A move's pauses let pending events run, so the user's clicks arrive in the
+// middle of it. What is left of the move belongs to the game it began in:
+// once a load has set up another board (reset, load, the editor switched
+// off, a replay) or the program is ending, it has nothing left to act on.
+bool GameGoesOn(const Game& g, int gameNumber) { return !g.Ending && g.GameNumber == gameNumber; }
+
 // Repaints the square a piece has arrived on.
 void RepaintDestination(Game& g, int col, int row) {
     const int drawCode = DrawCode(g, col, row);
@@ -31,8 +37,11 @@ void RepaintDestination(Game& g, int col, int row) {
 // The end of a game: the message, pending events, and the board stops
 // taking pointer input. Buttons and menus stay available.
 void EndGame(Game& g, const std::string& headline, const char* style) {
+    const int gameNumber = g.GameNumber;
     g.View->Show(headline + ResetHint, style);
     g.View->DoEvents();
+    // A reset clicked meanwhile has begun the next game: its board stays open.
+    if (g.GameNumber != gameNumber) return;
     g.GameOver = true;
     g.BoardEnabled = false;
     g.View->EnableBoard(false);
@@ -62,6 +71,28 @@ bool FindVictim(Game& g, int col, int row, int mover, int& victimCol, int& victi
     }
     SetHomeSquares(g, HomeCode);
     return found;
+}
+
+// After the capture's pause: the victim is taken only when the piece on
+// (col, row) is still the mover and the search still finds that victim, not
+// the King. An undo or another move made during the pause may have moved any
+// of them, and a piece no longer sandwiched (the King above all) must not
+// vanish.
+bool VictimStillTaken(Game& g, int col, int row, int mover, int victimCol, int victimRow) {
+    int c = 0, r = 0;
+    return g.Board(col, row) == mover && FindVictim(g, col, row, mover, c, r) && c == victimCol &&
+           r == victimRow && !IsKingSquare(g, c, r);
+}
+
+// Shows a computer move for a second, then tells whether it is still to be
+// made: in the same game, with its two squares holding what they held. A
+// move whose piece an undo or another move has taken away meanwhile would
+// otherwise carry an empty square over, or a piece that is not its own.
+bool ShowComputerMove(Game& g, int fromCol, int fromRow, int toCol, int toRow) {
+    const int gameNumber = g.GameNumber;
+    const int from = g.Board(fromCol, fromRow), to = g.Board(toCol, toRow);
+    AnimateMove(g, fromCol, fromRow, toCol, toRow);
+    return GameGoesOn(g, gameNumber) && g.Board(fromCol, fromRow) == from && g.Board(toCol, toRow) == to;
 }
 
 bool IsAttacker(const Game& g, int col, int row) { return g.Board(col, row) == AttackerCode; }
@@ -120,6 +151,7 @@ void AnimateMove(Game& g, int fromCol, int fromRow, int toCol, int toRow) {
 }
 
 void CaptureAround(Game& g, int col, int row) {
+    const int gameNumber = g.GameNumber;
     HideDragLine(g);
     for (;;) {
         const int mover = g.Board(col, row);
@@ -132,6 +164,9 @@ void CaptureAround(Game& g, int col, int row) {
 
         g.View->MarkVictim(victimCol, victimRow);
         g.View->Pause(1000);
+        if (!GameGoesOn(g, gameNumber)) return;
+        // Otherwise the search starts again on the position as it now stands.
+        if (!VictimStillTaken(g, col, row, mover, victimCol, victimRow)) continue;
         g.Board(victimCol, victimRow) = EmptyCode;
         PrintLog(g, "  Player" + Str(mover + 1) + " captures " + SquareName(g, victimCol, victimRow), mover + 1, 0);
         g.View->DrawSquare(victimCol, victimRow, BoardBackColourValue(g));
@@ -150,7 +185,7 @@ int CheckKingCapture(Game& g) {
 
 void MakeAttackerMove(Game& g, int fromCol, int fromRow, int toCol, int toRow) {
     RecordMove(g);
-    AnimateMove(g, fromCol, fromRow, toCol, toRow);
+    if (!ShowComputerMove(g, fromCol, fromRow, toCol, toRow)) return;
     MoveAndMark(g, fromCol, fromRow, toCol, toRow);
     if (CheckKingCapture(g) == 99) {
         // The King's capture is the whole move: no sandwich is taken and the
@@ -165,7 +200,7 @@ void MakeAttackerMove(Game& g, int fromCol, int fromRow, int toCol, int toRow) {
 
 void MakeDefenderMove(Game& g, int fromCol, int fromRow, int toCol, int toRow) {
     RecordMove(g);
-    AnimateMove(g, fromCol, fromRow, toCol, toRow);
+    if (!ShowComputerMove(g, fromCol, fromRow, toCol, toRow)) return;
     MoveAndMark(g, fromCol, fromRow, toCol, toRow);
 
     // The test for the King beside a Home corner reads its row from a value
@@ -223,7 +258,10 @@ void DropPiece(Game& g, int col, int row) {
         EndGame(g, "King at Home !", "vbhappy+vbok");
         return;
     }
+    const int gameNumber = g.GameNumber;
     CaptureAround(g, col, row);
+    // A game begun during the capture's pause has no move to answer.
+    if (!GameGoesOn(g, gameNumber)) return;
     AnalysePosition(g);
     HideDragLine(g);
     if (g.Check1) MakeRedAutoMove(g);
