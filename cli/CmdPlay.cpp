@@ -7,6 +7,7 @@
 #include "core/Move.h"
 #include "core/Pointer.h"
 #include "records/Layouts.h"
+#include "records/Notation.h"
 #include "records/Configuration.h"
 #include "records/PositionRecord.h"
 #include "records/TextFile.h"
@@ -18,7 +19,8 @@ namespace {
 
 const char* const PlayUsage =
     "usage: jarlsvakt-cli play FILE [--auto-reply] [--seed N] MOVE...\n"
-    "  MOVE: user:CCRR>CCRR  attacker:CCRR>CCRR  defender:CCRR>CCRR  red  green  undo\n";
+    "  MOVE: user:CCRR>CCRR  attacker:CCRR>CCRR  defender:CCRR>CCRR  red  green  undo\n"
+    "        (a move may also be written in standard notation: user:d1-d4)\n";
 
 struct MoveSquares {
     int FromCol = 0, FromRow = 0, ToCol = 0, ToRow = 0;
@@ -28,6 +30,7 @@ struct Step {
     std::string Text;   // as given, for the REFUSED line
     std::string Kind;   // "user", "attacker", "defender", "red", "green", "undo"
     MoveSquares Squares;
+    std::string Standard;   // the move in standard notation ("d1-d4"), read once the board is known
 };
 
 bool AllDigits(const std::string& text) {
@@ -46,14 +49,16 @@ std::optional<MoveSquares> ParseSquares(const std::string& text) {
 }
 
 std::optional<Step> ParseStep(const std::string& text) {
-    if (text == "red" || text == "green" || text == "undo") return Step{text, text, {}};
+    if (text == "red" || text == "green" || text == "undo") return Step{text, text, {}, {}};
     const std::size_t colon = text.find(':');
     if (colon == std::string::npos) return std::nullopt;
     const std::string kind = text.substr(0, colon);
     if (kind != "user" && kind != "attacker" && kind != "defender") return std::nullopt;
-    const auto squares = ParseSquares(text.substr(colon + 1));
+    const std::string move = text.substr(colon + 1);
+    if (IsStandardMoveText(move)) return Step{text, kind, {}, move};
+    const auto squares = ParseSquares(move);
     if (!squares) return std::nullopt;
-    return Step{text, kind, *squares};
+    return Step{text, kind, *squares, {}};
 }
 
 bool InPlay(const Game& g, int col, int row) {
@@ -69,7 +74,12 @@ bool UserMove(Game& g, const MoveSquares& s) {
 
 // Applies one step; false when it was refused.
 bool Apply(Game& g, const Step& step) {
-    const MoveSquares& s = step.Squares;
+    MoveSquares s = step.Squares;
+    if (!step.Standard.empty()) {
+        StandardMove move;
+        if (!ReadStandardMove(g, step.Standard, move)) return false;   // no move of this board
+        s = MoveSquares{move.FromCol, move.FromRow, move.ToCol, move.ToRow};
+    }
     if (step.Kind == "user") return UserMove(g, s);
     if (step.Kind == "red") MakeRedAutoMove(g);
     else if (step.Kind == "green") MakeGreenAutoMove(g);

@@ -18,6 +18,10 @@ int RunPerft(const Args& args);
 int RunPlay(const Args& args);
 int RunRank(const Args& args);
 int RunSelfplay(const Args& args);
+int RunSoak(const Args& args);
+int RunOtn(const Args& args);
+int RunFromOtn(const Args& args);
+int RunRecord(const Args& args);
 
 // Prepares a game for a command: the program's folder, the column letters,
 // the given view.

@@ -22,6 +22,10 @@ const std::map<std::string, Command>& Commands() {
         {"perft", {RunPerft, "perft FILE|- DEPTH [--side attackers|defenders]  count the move sequences"}},
         {"rank", {RunRank, "rank attackers FILE | rank defenders FILE [--mode 1]  print a side's ranking"}},
         {"selfplay", {RunSelfplay, "selfplay FILE --games N [--max-moves M] [--seed S] [--log DIR]  computer against computer"}},
+        {"soak", {RunSoak, "soak FILE... [--moves N] [--seed S] [--log DIR]  a long self-play test, its moves log replayed"}},
+        {"otn", {RunOtn, "otn FILE|-          print the OpenTafl position of a layout"}},
+        {"from-otn", {RunFromOtn, "from-otn POSITION OUT  write an OpenTafl position as a layout file"}},
+        {"record", {RunRecord, "record LOGFILE      print a moves log as a game record in standard move notation"}},
     };
     return commands;
 }

@@ -10,6 +10,7 @@
 #include "core/GameView.h"
 #include "records/FileChoice.h"
 #include "records/LayoutFile.h"
+#include "records/OtnFile.h"
 #include "records/TextFile.h"
 
 namespace jv {
@@ -81,15 +82,6 @@ bool FileHasLength(const std::string& path) {
     return !ec;
 }
 
-// The name as the user typed it, with ".txt" added when its file name holds
-// no point.
-std::string WithExtension(const std::string& name) {
-    const std::size_t folderEnd = name.find_last_of("\\/");
-    const std::size_t nameStart = folderEnd == std::string::npos ? 0 : folderEnd + 1;
-    if (name.find('.', nameStart) != std::string::npos) return name;
-    return name + "." + "txt";
-}
-
 }  // namespace
 
 void LoadLayout(Game& g, const std::string& path) {
@@ -122,8 +114,13 @@ void ShowLayoutName(Game& g) {
 
 void LoadCommand(Game& g) {
     if (g.EditorOn) return;
-    const std::string name = ChooseGameFile(g, FileMode::Open, "Select an input file to load");
+    const std::string name = ChooseGameFile(g, FileMode::Open, "Select an input file to load", PositionFilePatterns,
+                                            PositionFileDescriptions);
     if (name.empty()) return;
+    if (IsOtnFileName(name)) {
+        if (LoadOtnFile(g, name)) g.View->Show("Layout loaded from file:\r\n" + name, "vbinformation+vbok");
+        return;
+    }
     LoadLayout(g, name);
     // Shown after a failed load too: the failure has been reported and the
     // previous layout is back.
@@ -132,14 +129,15 @@ void LoadCommand(Game& g) {
 
 void SaveCommand(Game& g) {
     if (g.EditorOn) return;
-    std::string name = ChooseGameFile(g, FileMode::Save, "Select an output file to save");
+    std::string name = ChooseGameFile(g, FileMode::Save, "Select an output file to save", PositionFilePatterns,
+                                      PositionFileDescriptions);
     if (name.empty()) return;
-    name = WithExtension(name);
+    name = WithExtension(name, "txt");
     const std::string path = InProgramFolder(g, name);
     if (FileHasLength(path) && g.View->Show(name + "\r\nOverWrite file?", "vbYesNo+vbquestion") != Yes) return;
     // The old file is replaced only once the new one is whole on disk, so a
     // failed write leaves it as it was.
-    if (!WriteLayoutFile(g, path)) {
+    if (!(IsOtnFileName(name) ? WriteOtnFile(g, path) : WriteLayoutFile(g, path))) {
         g.View->Show("Layout File:\r\n" + name + "\r\ncould not be written, game not saved", "vbcritical+vbok");
         return;
     }

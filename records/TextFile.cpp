@@ -15,6 +15,13 @@ std::string InProgramFolder(const Game& g, const std::string& name) {
     return HasFolder(name) ? name : g.ProgramFolder + name;
 }
 
+std::string WithExtension(const std::string& name, const std::string& extension) {
+    const std::size_t folderEnd = name.find_last_of("\\/");
+    const std::size_t nameStart = folderEnd == std::string::npos ? 0 : folderEnd + 1;
+    if (name.find('.', nameStart) != std::string::npos) return name;
+    return name + "." + extension;
+}
+
 namespace {
 void DropCarriageReturn(std::string& line) {
     if (!line.empty() && line.back() == '\r') line.pop_back();

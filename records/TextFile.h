@@ -13,6 +13,10 @@ bool HasFolder(const std::string& name);
 // the program's folder.
 std::string InProgramFolder(const Game& g, const std::string& name);
 
+// The name as the user typed it, with "." and the extension added when its
+// file name (the part after the last folder separator) holds no point.
+std::string WithExtension(const std::string& name, const std::string& extension);
+
 // Reads the first line of a file (without its line end). False when the file
 // cannot be opened or read.
 bool ReadFirstLine(const std::string& path, std::string& line);

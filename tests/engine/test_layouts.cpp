@@ -161,7 +161,8 @@ TEST(LayoutCommands, LoadAsksForAFileInTheProgramFolderAndConfirms) {
     t.view.Clear();
 
     LoadCommand(g);
-    EXPECT_EQ(t.view.Calls.front(), "ChooseFile OPEN Select an input file to load [*.txt] Game Files");
+    EXPECT_EQ(t.view.Calls.front(),
+              "ChooseFile OPEN Select an input file to load [*.txt;;*.otn] Game Files;;OpenTafl positions");
     EXPECT_EQ(g.LayoutFile, "pattern3.txt");
     EXPECT_EQ(t.view.Messages(), std::vector<std::string>{"Layout loaded from file:\r\npattern3.txt [vbinformation+vbok]"});
     EXPECT_EQ(std::filesystem::current_path(), folder);
@@ -212,7 +213,8 @@ TEST(LayoutCommands, SaveAddsTxtAsksBeforeOverwritingAndReportsAFailedWrite) {
 
     t.view.FileChoices = {"opening"};
     SaveCommand(g);
-    EXPECT_EQ(t.view.Calls.front(), "ChooseFile SAVE Select an output file to save [*.txt] Game Files");
+    EXPECT_EQ(t.view.Calls.front(),
+              "ChooseFile SAVE Select an output file to save [*.txt;;*.otn] Game Files;;OpenTafl positions");
     EXPECT_EQ(t.view.Messages(), std::vector<std::string>{"Game saved to file:\r\nopening.txt [vbinformation+vbok]"});
     EXPECT_EQ(t.ReadFile("opening.txt"), line);
 
