@@ -25,7 +25,10 @@ void PaintSquareBox(Surface& s, const BoardCanvas& c, int a, int b, const QColor
     const Game& g = c.g;
     const int size = c.geometry.SquareSize;
     const int x = c.geometry.Left(a, b), y = c.geometry.Top(a, b);
-    const int r = x + size - 20 * g.SquareGap, bottom = y + size - 20 * g.SquareGap;
+    // The gap comes from the configuration file as written by hand too: it
+    // is held within one square so that no value can overflow the sums.
+    const int shrink = static_cast<int>(std::clamp(20LL * g.SquareGap, -1LL * size, 1LL * size));
+    const int r = x + size - shrink, bottom = y + size - shrink;
     const QColor grid = GridColour(g);
     switch (g.BoardStyle) {
         case 2:   // sunken: dark top and left, light right and bottom
