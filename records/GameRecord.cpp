@@ -234,10 +234,16 @@ std::string MakeMoveAgain(Game& g, TakingsView& view, const FoundMove& m) {
     return "";
 }
 
+// A move as the record writes it, and the side that made it.
+struct MoveText {
+    std::string Text;
+    bool Defenders = false;
+};
+
 // The standard text of the move from before to after; false with the reason
 // when after is not what one move makes of before.
-bool ReadMove(Game& g, TakingsView& view, const Position& before, const Position& after, std::string& text,
-              bool& defenders, std::string& reason) {
+bool ReadMove(Game& g, TakingsView& view, const Position& before, const Position& after, MoveText& text,
+              std::string& reason) {
     FoundMove m;
     if (!FindMove(g, before, after, m, reason)) return false;
     const std::string move = StandardSquare(g, m.From.Col, m.From.Row) + "-" + StandardSquare(g, m.To.Col, m.To.Row);
@@ -253,8 +259,66 @@ bool ReadMove(Game& g, TakingsView& view, const Position& before, const Position
         }
         return false;
     }
-    text = move + (view.Taken.empty() ? "" : "x" + Names(g, view.Taken, "")) + mark;
-    defenders = IsDefender(m.Kind);
+    text.Text = move + (view.Taken.empty() ? "" : "x" + Names(g, view.Taken, "")) + mark;
+    text.Defenders = IsDefender(m.Kind);
+    return true;
+}
+
+// Every move of every piece of before along a free line onto an empty
+// square, with the position each leaves behind; a move that ends the game
+// (the King taken) leaves none.
+template <typename Visit>
+void ForEachMove(Game& g, TakingsView& view, const Position& before, Visit visit) {
+    static constexpr int Steps[4][2] = {{-1, 0}, {1, 0}, {0, -1}, {0, 1}};
+    for (int col = 1; col <= g.BoardWidth; ++col)
+        for (int row = 1; row <= g.BoardHeight; ++row) {
+            const char kind = before.Kind(col, row);
+            if (kind == '.') continue;
+            for (const auto& step : Steps)
+                for (int c = col + step[0], r = row + step[1];
+                     c >= 1 && c <= g.BoardWidth && r >= 1 && r <= g.BoardHeight && before.Letter(c, r) == 'E';
+                     c += step[0], r += step[1]) {
+                    FoundMove m;
+                    m.From = Square{col, row};
+                    m.To = Square{c, r};
+                    m.Kind = kind;
+                    SetBoard(g, before);
+                    if (!MakeMoveAgain(g, view, m).empty()) continue;
+                    Position middle = before;
+                    middle.Line.replace(4, std::string::npos, EncodePosition(g));
+                    middle.KingCol = g.KingCol;
+                    middle.KingRow = g.KingRow;
+                    visit(middle);
+                }
+        }
+}
+
+// The King's winning move onto a corner is not logged, so a log (or the
+// undo history) may hold the position one move before it and then the King
+// at Home: two moves apart, the second the King's escape. Both are read
+// when exactly one move fits before the escape; false otherwise.
+bool ReadMoveAndEscape(Game& g, TakingsView& view, const Position& before, const Position& after,
+                       std::vector<MoveText>& moves, std::string& reason) {
+    const int kc = after.KingCol, kr = after.KingRow;
+    const bool kingHome = kc >= 1 && kc <= g.BoardWidth && kr >= 1 && kr <= g.BoardHeight && IsCorner(g, kc, kr) &&
+                          after.Kind(kc, kr) == 'K';
+    if (!kingHome) return false;
+    std::vector<std::vector<MoveText>> found;
+    ForEachMove(g, view, before, [&](const Position& middle) {
+        std::string ignored;
+        std::vector<MoveText> pair(2);
+        if (!ReadMove(g, view, before, middle, pair[0], ignored) || !ReadMove(g, view, middle, after, pair[1], ignored))
+            return;
+        if (pair[1].Text.size() > 2 && pair[1].Text.compare(pair[1].Text.size() - 2, 2, "--") == 0)
+            found.push_back(pair);
+    });
+    if (found.empty()) return false;
+    if (found.size() > 1) {
+        reason = "the King reached " + StandardSquare(g, kc, kr) +
+                 " two moves after the line before, and more than one pair of moves leads there";
+        return false;
+    }
+    moves = found.front();
     return true;
 }
 
@@ -314,10 +378,11 @@ GameRecordResult MakeGameRecord(const std::vector<std::string>& layoutLines) {
         const int lineNumber = static_cast<int>(i) + 1;
         if (!ReadPosition(g, layoutLines[i], after, reason)) return Refuse(lineNumber, reason);
         if (after.Line == before.Line) continue;
-        std::string move;
-        bool defenders = false;
-        if (!ReadMove(g, view, before, after, move, defenders, reason)) return Refuse(lineNumber, reason);
-        numbers.Add(move, defenders);
+        std::vector<MoveText> moves(1);
+        if (!ReadMove(g, view, before, after, moves.front(), reason) &&
+            !ReadMoveAndEscape(g, view, before, after, moves, reason))
+            return Refuse(lineNumber, reason);
+        for (const MoveText& move : moves) numbers.Add(move.Text, move.Defenders);
         before = after;
     }
     numbers.Close();
