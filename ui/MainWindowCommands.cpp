@@ -17,6 +17,7 @@
 #include "core/Move.h"
 #include "core/Session.h"
 #include "core/VbText.h"
+#include "records/GameRecordExport.h"
 #include "records/Layouts.h"
 #include "records/MovesLog.h"
 #include "records/Undo.h"
@@ -44,6 +45,7 @@ void MainWindow::ConnectCommands() {
     onClick("Command12", [this] { AutoGame(game_); });
     onMenu("mnuloadgame", [this] { LoadCommand(game_); });
     onMenu("mnusavegame", [this] { SaveCommand(game_); });
+    onMenu("mnuexportrecord", [this] { ExportGameRecordCommand(game_); });
     onMenu("mnuresetgame", [this] { ResetCommand(game_); });
     onMenu("mnuexit", [this] { ExitCommand(game_); });
     onMenu("mnuoptions", [this] { ShowOptions(); });

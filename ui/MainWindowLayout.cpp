@@ -242,6 +242,7 @@ void MainWindow::BuildMenus() {
     };
     add(file, "mnuloadgame", "&Load Game...", QKeySequence::Open);
     add(file, "mnusavegame", "&Save Game...", QKeySequence::Save);
+    add(file, "mnuexportrecord", "&Export game record...");
     add(file, "mnuresetgame", "&Reset Game");
     file->addSeparator();
     add(file, "mnuexit", "E&xit");

@@ -148,7 +148,7 @@ std::string MainWindow::ChooseFile(FileMode mode, const std::string& title, cons
     if (FileChooser) return FileChooser(mode, title);
     return ChooseFileName(this, mode == FileMode::Save, QString::fromStdString(title),
                           QString::fromStdString(game_.ProgramFolder),
-                          QString::fromStdString(description + " (" + pattern + ")"))
+                          FileFilters(QString::fromStdString(pattern), QString::fromStdString(description)))
         .toStdString();
 }
 
