@@ -4,7 +4,6 @@
 #include "cli/CliView.h"
 #include "cli/Commands.h"
 #include "records/GameRecord.h"
-#include "records/TextFile.h"
 
 namespace jv::cli {
 
@@ -19,14 +18,7 @@ int RunRecord(const Args& args) {
     Game g;
     PrepareGame(g, view);
     std::vector<std::string> lines;
-    if (!ReadLines(ResolveArgument(g, args[0]), lines)) {
-        std::cerr << "Moves Log File:\n" << args[0] << "\ncould not be read\n";
-        return 2;
-    }
-    if (lines.empty()) {
-        std::cerr << "No layouts in the Moves Log File:\n" << args[0] << '\n';
-        return 2;
-    }
+    if (!ReadMovesLogArgument(g, args[0], lines)) return 2;
     const GameRecordResult record = MakeGameRecord(lines);
     if (!record.Ok) {
         std::cerr << "Moves Log File:\n" << args[0] << "\nline " << record.BadLine << ": " << record.Reason << '\n';

@@ -6,7 +6,6 @@
 #include "core/VbText.h"
 #include "records/LayoutFile.h"
 #include "records/PositionRecord.h"
-#include "records/TextFile.h"
 
 namespace jv::cli {
 
@@ -21,14 +20,7 @@ int RunReplay(const Args& args) {
     Game g;
     PrepareGame(g, view);
     std::vector<std::string> lines;
-    if (!ReadLines(ResolveArgument(g, args[0]), lines)) {
-        std::cerr << "Moves Log File:\n" << args[0] << "\ncould not be read\n";
-        return 2;
-    }
-    if (lines.empty()) {
-        std::cerr << "No layouts in the Moves Log File:\n" << args[0] << '\n';
-        return 2;
-    }
+    if (!ReadMovesLogArgument(g, args[0], lines)) return 2;
     if (ApplyLayoutLine(g, lines.front())) {
         std::cerr << "Error reading Layout File:\n" << args[0] << '\n';
         return 2;

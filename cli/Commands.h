@@ -36,6 +36,11 @@ std::string ResolveArgument(const Game& g, const std::string& name);
 // the name on standard error and returns false.
 bool ReadLayoutArgument(Game& g, const std::string& name);
 
+// Reads every line of a moves log named on the command line. On failure (a
+// log that cannot be read, or holds no line) prints the reason on standard
+// error, as the replay in the program words it, and returns false.
+bool ReadMovesLogArgument(const Game& g, const std::string& name, std::vector<std::string>& lines);
+
 // The board as a grid: a line of row numbers, then one line per Col with its
 // letter: H Home, . empty, d defender, K King, a attacker.
 void PrintGrid(const Game& g, std::ostream& out);

@@ -35,4 +35,16 @@ bool ReadLayoutArgument(Game& g, const std::string& name) {
     return !failed;
 }
 
+bool ReadMovesLogArgument(const Game& g, const std::string& name, std::vector<std::string>& lines) {
+    if (!ReadLines(ResolveArgument(g, name), lines)) {
+        std::cerr << "Moves Log File:\n" << name << "\ncould not be read\n";
+        return false;
+    }
+    if (lines.empty()) {
+        std::cerr << "No layouts in the Moves Log File:\n" << name << '\n';
+        return false;
+    }
+    return true;
+}
+
 }  // namespace jv::cli

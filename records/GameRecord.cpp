@@ -4,8 +4,8 @@
 #include <string_view>
 
 #include "core/Board.h"
-#include "core/GameView.h"
 #include "core/Move.h"
+#include "core/SilentView.h"
 #include "core/VbText.h"
 #include "records/Notation.h"
 #include "records/PositionRecord.h"
@@ -16,32 +16,10 @@ namespace {
 
 // The view of the game on which each move is made again: it shows nothing
 // and keeps the squares CaptureAround takes, in the order it takes them.
-class TakingsView : public GameView {
+class TakingsView : public SilentView {
 public:
     std::vector<Square> Taken;
-
-    void DrawBoard() override {}
-    void DrawSquare(int, int, std::int32_t) override {}
-    void DrawPiece(int, int, int) override {}
-    void DrawMoveMark(int, int, int, int) override {}
     void MarkVictim(int col, int row) override { Taken.push_back(Square{col, row}); }
-    void ShowDragLine(int, int, int, int) override {}
-    void HideDragLine() override {}
-    void PrintLine(const std::string&, int, int) override {}
-    void ClearLog() override {}
-    void Pause(int) override {}
-    void DoEvents() override {}
-    int Show(const std::string&, const std::string&) override { return 0; }
-    void EnableBoard(bool) override {}
-    void SetBusy(bool) override {}
-    void UpdateCounters(int, int) override {}
-    void ShowLayoutName(const std::string&, const std::string&) override {}
-    void RefreshList(ListId) override {}
-    void ShowEditor(bool) override {}
-    std::string ChooseFile(FileMode, const std::string&, const std::string&, const std::string&) override {
-        return {};
-    }
-    void EndProgram() override {}
 };
 
 bool AllDigits(std::string_view text) {
