@@ -15,14 +15,14 @@
 #include <system_error>
 #include <stdlib.h>   // mkdtemp
 
-#include "core/GameView.h"
+#include "core/SilentView.h"
 
 namespace jv::fuzz {
 
 // Answers the message box from a script (then DefaultAnswer) and the file
 // dialog with one fixed name; remembers only how often it was asked and the
 // last question, the rest of the screen is dropped.
-class QuietView : public GameView {
+class QuietView : public SilentView {
 public:
     std::deque<int> Answers;
     int DefaultAnswer = 1;
@@ -32,17 +32,6 @@ public:
     std::string LastText, LastStyle;
     int LastAnswer = 0;
 
-    void DrawBoard() override {}
-    void DrawSquare(int, int, std::int32_t) override {}
-    void DrawPiece(int, int, int) override {}
-    void DrawMoveMark(int, int, int, int) override {}
-    void MarkVictim(int, int) override {}
-    void ShowDragLine(int, int, int, int) override {}
-    void HideDragLine() override {}
-    void PrintLine(const std::string&, int, int) override {}
-    void ClearLog() override {}
-    void Pause(int) override {}
-    void DoEvents() override {}
     int Show(const std::string& text, const std::string& style) override {
         ++Shows;
         LastText = text;
@@ -54,16 +43,9 @@ public:
         }
         return LastAnswer;
     }
-    void EnableBoard(bool) override {}
-    void SetBusy(bool) override {}
-    void UpdateCounters(int, int) override {}
-    void ShowLayoutName(const std::string&, const std::string&) override {}
-    void RefreshList(ListId) override {}
-    void ShowEditor(bool) override {}
     std::string ChooseFile(FileMode, const std::string&, const std::string&, const std::string&) override {
         return FileChoice;
     }
-    void EndProgram() override {}
 };
 
 // A program folder of this process's own (with a trailing "/"), made on first
