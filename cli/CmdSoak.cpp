@@ -1,0 +1,99 @@
+#include <charconv>
+#include <cstdio>
+#include <filesystem>
+#include <iostream>
+#include <vector>
+
+#include "cli/Commands.h"
+#include "cli/Soak.h"
+
+namespace jv::cli {
+
+namespace {
+
+const char* const SoakUsage =
+    "usage: jarlsvakt-cli soak FILE... [--moves N] [--seed S] [--log DIR]\n"
+    "  a test run: the computer players play each other for N moves (10000) per layout, the random\n"
+    "  mover standing in for a side whose player finds no move, each game that ends started again;\n"
+    "  the moves log (DIR/soak-FILE, DIR the system's temporary folder by default) is then replayed\n";
+
+struct Options {
+    std::vector<std::string> Layouts;
+    long long Moves = 10000;
+    long long Seed = 1;
+    std::string LogFolder = std::filesystem::temp_directory_path().string();
+};
+
+bool ParseNumber(const std::string& text, long long& value) {
+    const char* end = text.data() + text.size();
+    const auto [stop, error] = std::from_chars(text.data(), end, value);
+    return error == std::errc() && stop == end && value >= 0;
+}
+
+bool ParseOptions(const Args& args, Options& o) {
+    for (std::size_t i = 0; i < args.size(); ++i) {
+        const std::string& a = args[i];
+        if (a.rfind("--", 0) != 0) {
+            o.Layouts.push_back(a);
+            continue;
+        }
+        if (i + 1 >= args.size()) return false;
+        const std::string& value = args[++i];
+        if (a == "--log") o.LogFolder = value;
+        else if (a == "--moves" && ParseNumber(value, o.Moves) && o.Moves > 0) continue;
+        else if (a == "--seed" && ParseNumber(value, o.Seed)) continue;
+        else return false;
+    }
+    return !o.Layouts.empty();
+}
+
+double KiB(std::int64_t bytes) { return static_cast<double>(bytes) / 1024.0; }
+
+void Print(const std::string& name, const SoakReport& r) {
+    std::printf("%s: %lld moves in %lld games, %.1f s (%.0f moves/s)\n", name.c_str(), r.Moves, r.Games, r.Seconds,
+                r.Seconds > 0 ? static_cast<double>(r.Moves) / r.Seconds : 0.0);
+    std::printf("  moves: %lld by the computer players, %lld random for the defenders, %lld random for the attackers\n",
+                r.ComputerMoves, r.RandomDefenderMoves, r.RandomAttackerMoves);
+    std::printf("  games ended: King taken %lld, King with a free run %lld, no move for either side %lld\n",
+                r.KingsTaken, r.FreeRuns, r.Stalemates);
+    std::printf("  moves log: %lld lines, %lld replayed, final position %s%s%s\n", r.LogLines, r.LinesReplayed,
+                r.FinalMatches ? "matches" : "DIFFERS", r.FirstFault.empty() ? "" : "; ", r.FirstFault.c_str());
+    if (r.Start.InUse >= 0)
+        std::printf("  memory in use: %+.0f KiB; held by the undo history, event log and lists: %+.0f KiB (at most "
+                    "%.0f KiB); not held by them: %+.1f KiB\n",
+                    KiB(r.End.InUse - r.Start.InUse), KiB(r.End.Held - r.Start.Held), KiB(r.PeakHeld),
+                    KiB(r.Unexplained()));
+    std::printf("  resident: %lld KiB after the first tenth, %lld KiB at the end, peak %lld KiB\n",
+                static_cast<long long>(r.Start.RssKiB), static_cast<long long>(r.End.RssKiB),
+                static_cast<long long>(r.End.PeakRssKiB));
+    std::printf("  %s\n", r.Passed() ? "passed" : "FAILED");
+}
+
+}  // namespace
+
+int RunSoak(const Args& args) {
+    Options o;
+    if (!ParseOptions(args, o)) {
+        std::cerr << SoakUsage;
+        return 1;
+    }
+    std::error_code ec;
+    std::filesystem::create_directories(o.LogFolder, ec);
+    bool passed = true;
+    for (const std::string& layout : o.Layouts) {
+        SoakOptions run;
+        run.Layout = layout;
+        run.Moves = o.Moves;
+        run.Seed = o.Seed;
+        const std::string name = std::filesystem::path(layout).filename().string();
+        run.MovesLog = std::filesystem::absolute(std::filesystem::path(o.LogFolder) / ("soak-" + name)).string();
+        SoakReport report;
+        if (!RunSoakOn(run, report)) return 2;
+        Print(name, report);
+        std::fflush(stdout);
+        passed = passed && report.Passed();
+    }
+    return passed ? 0 : 3;
+}
+
+}  // namespace jv::cli
