@@ -1,6 +1,7 @@
 #include "ai/AttackerRank.h"
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 #include <vector>
 
@@ -11,7 +12,6 @@
 #include "core/Board.h"
 #include "core/GameView.h"
 #include "core/Reach.h"
-#include "core/SortedList.h"
 #include "core/VbText.h"
 
 namespace jv {
@@ -61,71 +61,86 @@ std::string RankLine(int score, int defenderScore, const AttackerMove& m) {
     return line;
 }
 
-// The analysis tables during the trials. A scored candidate reads only two
-// tables of its own position, the defenders' reach and the King's targets,
-// and the position is analysed again once the move is put back. So while the
-// tables hold the analysis of the position the ranking started from, a trial
-// writes just those two over it and puts the kept ones back afterwards,
-// leaving exactly what the second analysis would. A rejected trial gets the
-// full analysis of its own position, which stays behind.
+// The analysis tables during the trials. In the program's order of steps a
+// trial analyses its own position in full, and a scored trial analyses the
+// start position again once its move is put back; so after a rejected trial
+// the tables are those of its position, after a scored one those of the
+// start position. But a trial reads only two tables of its own position, the
+// defenders' reach and the King's targets, and between trials the scan reads
+// only the attackers' reach. So a trial writes just its two tables; a
+// rejected one also writes the attackers' reach of its position and owes the
+// rest of its analysis, which is made at the end of the scan when no later
+// trial has replaced it; a scored one puts back the three tables of the
+// start position, kept from its one full analysis.
 class TrialAnalysis {
 public:
     // The move has been made on the board.
     void Begin(Game& g) {
-        kept_ = g.ReachMap[DefenderCode];
-        std::swap(keptKingTargets_, g.MoveTargets(g.KingCol, g.KingRow));
-        MarkDefenderReach(g);
+        MarkSideReach(g, DefenderCode);
         std::string& kingTargets = g.MoveTargets(g.KingCol, g.KingRow);
         kingTargets.clear();
         if (OnBoard(g, g.KingCol, g.KingRow) && g.Board(g.KingCol, g.KingRow) != EmptyCode)
             for (char d : {'U', 'D', 'L', 'R'}) AppendReach(g, g.KingCol, g.KingRow, d, kingTargets);
     }
-    // The move is rejected: the tables become those of the tried position.
-    void Complete(Game& g) {
-        AnalysePosition(g);
-        original_ = false;
+    // The move is rejected; it is still on the board.
+    void Reject(Game& g, const AttackerMove& m) {
+        MarkSideReach(g, AttackerCode);
+        owed_ = m;
+        owing_ = true;
     }
     // The scored move has been put back.
     void End(Game& g) {
-        if (original_ && g.KingCol == kingCol_ && g.KingRow == kingRow_ &&
+        owing_ = false;
+        if (kept_ && g.KingCol == kingCol_ && g.KingRow == kingRow_ &&
             std::memcmp(&g.Board, &board_, sizeof board_) == 0) {
-            g.ReachMap[DefenderCode] = kept_;
-            std::swap(keptKingTargets_, g.MoveTargets(g.KingCol, g.KingRow));
+            g.ReachMap = keptReach_;
+            g.MoveTargets(g.KingCol, g.KingRow) = keptKingTargets_;
             return;
         }
         AnalysePosition(g);
+        keptReach_ = g.ReachMap;
+        keptKingTargets_ = g.MoveTargets(g.KingCol, g.KingRow);
         board_ = g.Board;
         kingCol_ = g.KingCol;
         kingRow_ = g.KingRow;
-        original_ = true;
+        kept_ = true;
+    }
+    // The scan is over: a rejected last trial leaves the full analysis of
+    // its position behind.
+    void Finish(Game& g) {
+        if (!owing_) return;
+        owing_ = false;
+        const std::int32_t from = g.Board(owed_.FromCol, owed_.FromRow), to = g.Board(owed_.ToCol, owed_.ToRow);
+        g.Board(owed_.ToCol, owed_.ToRow) = from;
+        g.Board(owed_.FromCol, owed_.FromRow) = EmptyCode;
+        AnalysePosition(g);
+        g.Board(owed_.FromCol, owed_.FromRow) = from;
+        g.Board(owed_.ToCol, owed_.ToRow) = to;
     }
 
 private:
     static bool OnBoard(const Game& g, int c, int r) {
         return c >= 1 && c <= g.BoardWidth && r >= 1 && r <= g.BoardHeight;
     }
-    // ReachMap(0) as the analysis builds it: every square some defender
-    // piece, the King included, can move to.
-    void MarkDefenderReach(Game& g) {
-        Grid<std::int8_t>& reach = g.ReachMap[DefenderCode];
+    // ReachMap for one side as the analysis builds it: every square some
+    // piece of the side (for the defenders the King too) can move to.
+    static void MarkSideReach(Game& g, int side) {
+        Grid<std::int8_t>& reach = g.ReachMap[side];
         reach.Fill(0);
         for (int c = 1; c <= g.BoardWidth; ++c)
-            for (int r = 1; r <= g.BoardHeight; ++r) {
-                if (g.Board(c, r) != DefenderCode) continue;
-                walk_.clear();
-                for (char d : {'U', 'D', 'L', 'R'}) AppendReach(g, c, r, d, walk_);
-                ForEachTarget(walk_, [&](int tc, int tr) { reach(tc, tr) = 1; });
-            }
+            for (int r = 1; r <= g.BoardHeight; ++r)
+                if (g.Board(c, r) == side) MarkReach(g, c, r, reach);
     }
 
-    // True while every table but the defenders' reach and the King's targets
-    // is that of the start position.
-    bool original_ = false;
+    // The three tables of the start position, once it has been analysed.
+    bool kept_ = false;
     Grid<std::int32_t> board_;
     int kingCol_ = 0, kingRow_ = 0;
-    Grid<std::int8_t> kept_;
+    std::array<Grid<std::int8_t>, 2> keptReach_;
     std::string keptKingTargets_;
-    std::string walk_;
+    // The rejected trial whose analysis the tables still owe.
+    bool owing_ = false;
+    AttackerMove owed_{};
 };
 
 // One candidate, tried and scored on the shared board. A move
@@ -141,7 +156,7 @@ void TryAttackerMove(Game& g, const AttackerMove& m, int before, std::string& ro
     g.Board(m.FromCol, m.FromRow) = EmptyCode;
     tables.Begin(g);
     if (AttackerExposed(g, m.ToCol, m.ToRow) == 1 || (before != 99 && RouteFromKing(g, route) == 99)) {
-        tables.Complete(g);
+        tables.Reject(g, m);
         putBack();
         return;
     }
@@ -151,7 +166,7 @@ void TryAttackerMove(Game& g, const AttackerMove& m, int before, std::string& ro
     // With a run home already open the defenders' reply tells the moves
     // apart no more: the plan alone decides.
     if (before == 99) defenderScore = 0;
-    InsertSorted(g.List1A, RankLine(MoveScore(g, defenderScore, m.ToCol, m.ToRow), defenderScore, m));
+    g.List1A.push_back(RankLine(MoveScore(g, defenderScore, m.ToCol, m.ToRow), defenderScore, m));
 }
 
 }  // namespace
@@ -259,6 +274,10 @@ void GetAttackerRank(Game& g) {
                  ++k)
                 TryAttackerMove(g, byDestination[k], before, route, tables);
         }
+    tables.Finish(g);
+    // List1A keeps its lines in ascending text order; nothing reads it
+    // during the scan, so it is sorted once at the end.
+    std::sort(g.List1A.begin(), g.List1A.end());
 
     g.View->SetBusy(false);
     g.View->RefreshList(ListId::AttackerMovesRank);

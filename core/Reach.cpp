@@ -22,10 +22,10 @@ bool DirectionStep(const Game& g, int col, int row, char direction, Step& step, 
     }
 }
 
-// Walks from (col, row) over empty squares, appending each as a square item
-// and calling mark(c, r) for it.
-template <typename Mark>
-void Walk(const Game& g, int col, int row, char direction, std::string& out, Mark mark) {
+// Calls visit(c, r) for each empty square from (col, row) in one direction,
+// nearest first, up to the first square that is not empty.
+template <typename Visit>
+void Slide(const Game& g, int col, int row, char direction, Visit visit) {
     Step step;
     int squares;
     if (!DirectionStep(g, col, row, direction, step, squares)) return;
@@ -33,11 +33,20 @@ void Walk(const Game& g, int col, int row, char direction, std::string& out, Mar
         col += step.dc;
         row += step.dr;
         if (g.Board(col, row) != EmptyCode) return;
-        const char item[5] = {static_cast<char>('0' + col / 10), static_cast<char>('0' + col % 10),
-                              static_cast<char>('0' + row / 10), static_cast<char>('0' + row % 10), ','};
-        out.append(item, 5);
-        mark(col, row);
+        visit(col, row);
     }
+}
+
+// Walks from (col, row) over empty squares, appending each as a square item
+// and calling mark(c, r) for it.
+template <typename Mark>
+void Walk(const Game& g, int col, int row, char direction, std::string& out, Mark mark) {
+    Slide(g, col, row, direction, [&](int c, int r) {
+        const char item[5] = {static_cast<char>('0' + c / 10), static_cast<char>('0' + c % 10),
+                              static_cast<char>('0' + r / 10), static_cast<char>('0' + r % 10), ','};
+        out.append(item, 5);
+        mark(c, r);
+    });
 }
 
 }  // namespace
@@ -50,6 +59,10 @@ std::string ReachInDirection(const Game& g, int col, int row, char direction) {
     std::string out;
     AppendReach(g, col, row, direction, out);
     return out;
+}
+
+void MarkReach(const Game& g, int col, int row, Grid<std::int8_t>& reach) {
+    for (char d : {'U', 'D', 'L', 'R'}) Slide(g, col, row, d, [&reach](int c, int r) { reach(c, r) = 1; });
 }
 
 void BuildReachTables(Game& g) {
