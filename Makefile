@@ -3,8 +3,10 @@
 PRESET ?= dev
 # How long `make fuzz` runs each fuzzing harness, in seconds.
 FUZZ_SECONDS ?= 60
+# How many moves `make soak` plays on each shipped layout.
+SOAK_MOVES ?= 10000
 
-.PHONY: deps configure build run test test-asan fuzz bench clean
+.PHONY: deps configure build run test test-asan fuzz bench soak clean
 
 deps:
 	@scripts/install-deps.sh
@@ -38,6 +40,18 @@ bench: deps
 	@cmake --preset release >/dev/null
 	@cmake --build --preset release --target jarlsvakt-bench
 	@build/release/bin/jarlsvakt-bench
+	@if grep -q '^JARLSVAKT_UI:BOOL=ON' build/release/CMakeCache.txt; then \
+		cmake --build --preset release --target jarlsvakt-startup-bench && \
+		QT_QPA_PLATFORM=offscreen build/release/bin/jarlsvakt-startup-bench 2>/dev/null; \
+	else echo "start-up time skipped: the window is not built"; fi
+
+# A long self-play run on every shipped layout with the moves log on, its
+# memory and its log checked (docs/benchmarks.md); not part of `make test`.
+soak: deps
+	@cmake --preset release >/dev/null
+	@cmake --build --preset release --target jarlsvakt-cli
+	@build/release/bin/jarlsvakt-cli soak patf.txt pattern1.txt pattern2.txt pattern3.txt pattern4.txt \
+		pattern5.txt --moves $(SOAK_MOVES) --log build/soak
 
 clean:
 	rm -rf build

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "Positions.h"
 #include "Timing.h"
 #include "ai/AttackerRank.h"
 #include "ai/AutoMove.h"
@@ -20,24 +21,6 @@
 namespace jv::bench {
 
 namespace {
-
-struct RankPosition {
-    const char* Name;
-    std::string Path;
-};
-
-std::vector<RankPosition> RankPositions() {
-    const std::string data = std::string(JARLSVAKT_DATA_DIR) + "/";
-    return {
-        {"patf.txt (11x11)", data + "patf.txt"},
-        {"pattern1.txt", data + "pattern1.txt"},
-        {"pattern2.txt", data + "pattern2.txt"},
-        {"pattern3.txt", data + "pattern3.txt"},
-        {"pattern4.txt", data + "pattern4.txt"},
-        {"pattern5.txt", data + "pattern5.txt"},
-        {"crowded 14x14", std::string(JARLSVAKT_TEST_DATA_DIR) + "/crowded14.txt"},
-    };
-}
 
 // A game freshly loaded from a layout file, as the program starts one.
 struct LoadedGame {
@@ -118,7 +101,7 @@ void BenchSelfPlay() {
 
 bool BenchRank() {
     std::uint64_t signature = 1469598103934665603ULL;
-    for (const RankPosition& p : RankPositions()) {
+    for (const BenchPosition& p : BenchPositions()) {
         if (!MixRankings(signature, p.Path)) {
             std::printf("cannot read %s\n", p.Path.c_str());
             return false;
