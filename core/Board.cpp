@@ -74,7 +74,14 @@ std::string SquareName(const Game& g, int col, int row) {
 
 void AppendSquareText(std::string& out, int col, int row) {
     // Squares in play and their neighbours are 0..99, so two digits suffice;
-    // a negative index (never a square in play) is written as Format would.
+    // they are written at once, as they are written for every trial move.
+    if (col >= 0 && col < 100 && row >= 0 && row < 100) {
+        const char text[4] = {static_cast<char>('0' + col / 10), static_cast<char>('0' + col % 10),
+                              static_cast<char>('0' + row / 10), static_cast<char>('0' + row % 10)};
+        out.append(text, 4);
+        return;
+    }
+    // A negative index (never a square in play) is written as Format would.
     auto two = [&out](int v) {
         if (v < 0) {
             out += '-';

@@ -61,10 +61,6 @@ std::string ReachInDirection(const Game& g, int col, int row, char direction) {
     return out;
 }
 
-void MarkReach(const Game& g, int col, int row, Grid<std::int8_t>& reach) {
-    for (char d : {'U', 'D', 'L', 'R'}) Slide(g, col, row, d, [&reach](int c, int r) { reach(c, r) = 1; });
-}
-
 void BuildReachTables(Game& g) {
     const int w = g.BoardWidth, h = g.BoardHeight;
     for (int col = -1; col <= w + 1; ++col)

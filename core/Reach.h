@@ -1,5 +1,4 @@
 #pragma once
-#include <cstdint>
 #include <string>
 
 #include "core/Game.h"
@@ -15,10 +14,6 @@ std::string ReachInDirection(const Game& g, int col, int row, char direction);
 
 // Appends what ReachInDirection gives to out, without a temporary text.
 void AppendReach(const Game& g, int col, int row, char direction, std::string& out);
-
-// Marks with 1 in reach every square the piece on (col, row) can move to,
-// the squares its MoveTargets list, without writing the list.
-void MarkReach(const Game& g, int col, int row, Grid<std::int8_t>& reach);
 
 // Rebuilds MoveTargets (for every non-empty square, its reach "U", "D", "L",
 // "R" in that order) and ReachMap (the squares some piece of each side can
