@@ -117,6 +117,10 @@ void MakeGreenAutoMove(Game& g) {
 }
 
 void RandomMover(Game& g, int side) {
+    // The destination lists are read from the position as it stands: after a
+    // ranking they may still be those of the ranking's last trial move, and a
+    // move taken from them could land on a piece and erase it.
+    AnalysePosition(g);
     // A side without a move moves nothing and records nothing.
     if (!SideCanMove(g, side)) {
         g.List1.clear();

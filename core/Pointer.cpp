@@ -4,6 +4,7 @@
 
 #include "core/Board.h"
 #include "core/Move.h"
+#include "core/Reach.h"
 
 namespace jv {
 
@@ -48,6 +49,12 @@ void CancelDrag(Game& g) {
 
 }  // namespace
 
+std::string PieceTargets(const Game& g, int col, int row) {
+    std::string targets;
+    for (char d : {'U', 'D', 'L', 'R'}) AppendReach(g, col, row, d, targets);
+    return targets;
+}
+
 bool CanStartDrag(const Game& g, int col, int row) {
     return g.BoardEnabled && InPlay(g, col, row) && g.Board(col, row) == DefenderCode;
 }
@@ -62,7 +69,7 @@ bool BeginDrag(Game& g, int col, int row) {
 bool AcceptsDrop(const Game& g, int col, int row) {
     const Square source = g.DragSource;
     if (!g.BoardEnabled || !InPlay(g, source.Col, source.Row) || !InPlay(g, col, row)) return false;
-    if (ListsSquare(g.MoveTargets(source.Col, source.Row), col, row)) return true;
+    if (ListsSquare(PieceTargets(g, source.Col, source.Row), col, row)) return true;
     return IsKingSquare(g, source.Col, source.Row) && KingReachesHome(g, col, row);
 }
 

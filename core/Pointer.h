@@ -11,6 +11,11 @@ namespace jv {
 // for the King also on a Home corner at the end of a free straight line.
 
 bool CanStartDrag(const Game& g, int col, int row);
+// The squares the piece on (col, row) can move to in the position as it
+// stands, as square items in MoveTargets order. The tables of the last
+// analysis may be those of a computer player's trial move, so the pointer
+// walks the board itself.
+std::string PieceTargets(const Game& g, int col, int row);
 // Starts a drag: sets DragSource and shows the drag line. False when refused.
 bool BeginDrag(Game& g, int col, int row);
 bool AcceptsDrop(const Game& g, int col, int row);

@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QResizeEvent>
 
+#include "core/Pointer.h"
 #include "core/Reach.h"
 #include "ui/BoardPainter.h"
 #include "ui/ColourValue.h"
@@ -85,7 +86,7 @@ void BoardPicture::HideDragLine() {
 
 void BoardPicture::HighlightReach(int a, int b) {
     const QColor reach = ToQColor(g_.ColourTable[11]);
-    ForEachSquareItem(g_.MoveTargets(a, b), [&](int col, int row) { DrawSquare(col, row, reach); });
+    ForEachSquareItem(PieceTargets(g_, a, b), [&](int col, int row) { DrawSquare(col, row, reach); });
 }
 
 void BoardPicture::resizeEvent(QResizeEvent* event) {

@@ -259,3 +259,16 @@ TEST(PlayAutoGame, EndsOnAFreeRunANoMoveOrTheMoveLimit) {
     EXPECT_EQ(r.End, GameEnd::DefendersWithoutMove);
     EXPECT_EQ(r.Moves, 0);
 }
+
+TEST(RandomMover, ReadsThePositionAsItStandsNotTheLastTrialsTables) {
+    // The random mover's candidates are the moves of the board as it stands, whatever analysis a ranking
+    // left behind, so it never lands on a piece.
+    TestGame t;
+    Game& g = t.g;
+    PlacePieces(g, 5, 5, {"..d..", "..ad.", "..d..", ".....", "...K."});
+    g.Board(2, 2) = DefenderCode;   // the attacker's lists still show (2,2) and (2,1) free
+    const std::string before = EncodePosition(g);
+    RandomMover(g, AttackerCode);
+    EXPECT_EQ(EncodePosition(g), before);
+    EXPECT_TRUE(g.Undo.empty());
+}
