@@ -17,8 +17,12 @@ configure: deps
 build: configure
 	@cmake --build --preset $(PRESET)
 
-run: build
-	@scripts/run-game.sh build/$(PRESET)/bin/jarlsvakt
+# The player gets the optimised program (with debug information), whatever
+# PRESET the tests use.
+run: deps
+	@cmake --preset release >/dev/null
+	@cmake --build --preset release --target jarlsvakt jarlsvakt_data
+	@scripts/run-game.sh build/release/bin/jarlsvakt
 
 # The tests, then a short run of each fuzzing harness (skipped without clang).
 test: build

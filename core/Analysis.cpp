@@ -1,5 +1,7 @@
 #include "core/Analysis.h"
 
+#include <algorithm>
+
 #include "core/Board.h"
 #include "core/GameView.h"
 #include "core/Reach.h"
@@ -50,6 +52,8 @@ void UpdateCounters(Game& g) {
             if (code == DefenderCode) ++defenders;
             if (code == AttackerCode) ++attackers;
         }
+    // A board without a King (an empty board) counts no defender below none.
+    defenders = std::max(defenders, 0);
     g.DefenderCount = defenders;
     g.AttackerCount = attackers;
     g.View->UpdateCounters(defenders, attackers);

@@ -27,7 +27,8 @@ bool ApplyLayoutLine(Game& g, const std::string& line) {
 
 bool ReadLayoutFile(Game& g, const std::string& path) {
     std::string line;
-    if (!ReadFirstLine(path, line)) return true;
+    // An empty file has no first line to read: it fails like a missing one.
+    if (!ReadFirstLine(path, line) || line.empty()) return true;
     return ApplyLayoutLine(g, line);
 }
 

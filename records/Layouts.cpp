@@ -19,6 +19,9 @@ namespace {
 
 constexpr int Yes = 6;
 
+// The opening shipped with the program, the last resort of a failed load.
+const std::string ShippedOpening = "patf.txt";
+
 // Keeps LoadLayout's nesting depth for the length of one call.
 struct LoadDepth {
     explicit LoadDepth(Game& game) : g(game) { ++g.LayoutLoadDepth; }
@@ -82,20 +85,32 @@ bool FileHasLength(const std::string& path) {
     return !ec;
 }
 
+// A layout that cannot be read is reported once, and the previous layout
+// comes back; when that cannot be read either, the shipped opening does, and
+// only when that fails too is an empty board set up.
+void ReportUnreadableLayout(Game& g, const std::string& path, const std::string& previous) {
+    if (g.LayoutLoadDepth == 1) {
+        g.View->Show("Error reading Layout File:\r\n" + path, "vbcritical+vbok");
+        g.View->DoEvents();
+        LoadLayout(g, previous);
+        return;
+    }
+    if (g.LayoutLoadDepth == 2 && path != ShippedOpening) {
+        if (LoadLayout(g, ShippedOpening))
+            PrintLog(g, "Layout File: " + path + " could not be read either, " + ShippedOpening + " is loaded", 0, 0);
+        return;
+    }
+    LoadEmptyBoard(g, path);
+}
+
 }  // namespace
 
-void LoadLayout(Game& g, const std::string& path) {
+bool LoadLayout(Game& g, const std::string& path) {
     LoadDepth depth(g);
     const std::string previous = g.LayoutFile;
     if (ReadLayoutFile(g, InProgramFolder(g, path))) {
-        g.View->Show("Error reading Layout File:\r\n" + path, "vbcritical+vbok");
-        g.View->DoEvents();
-        if (g.LayoutLoadDepth > 1) {
-            LoadEmptyBoard(g, previous);
-            return;
-        }
-        LoadLayout(g, previous);
-        return;
+        ReportUnreadableLayout(g, path, previous);
+        return false;
     }
     AnalysePosition(g);
     g.View->DrawBoard();
@@ -103,6 +118,7 @@ void LoadLayout(Game& g, const std::string& path) {
     StartGameOnBoard(g);
     PrintLog(g, "Loaded Layout: " + path, 0, 0);
     EnablePlay(g);
+    return true;
 }
 
 void ShowLayoutName(Game& g) {

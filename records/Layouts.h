@@ -6,8 +6,9 @@
 namespace jv {
 
 // The one way every game begins: reads the layout, and on success starts a
-// new game on it; on failure reports it and loads the previous layout again.
-void LoadLayout(Game& g, const std::string& path);
+// new game on it; on failure reports it and loads the previous layout again
+// (then the shipped opening, then an empty board). True when path was loaded.
+bool LoadLayout(Game& g, const std::string& path);
 
 // Shows the part of LayoutFile after its last folder separator as the
 // layout caption, with the whole name as tool tip.

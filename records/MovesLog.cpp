@@ -86,9 +86,10 @@ void ReplayCommand(Game& g) {
         return;
     }
 
-    LoadLayout(g, file);
-    if (StepThroughLog(g, lines)) return;
-    LoadLayout(g, saved);
+    // A log whose layout line is refused is not stepped through: its
+    // positions would land on the board of another game.
+    const bool stoppedOnPosition = LoadLayout(g, file) && StepThroughLog(g, lines);
+    if (!stoppedOnPosition) LoadLayout(g, saved);
 }
 
 }  // namespace jv
