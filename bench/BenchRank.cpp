@@ -10,12 +10,12 @@
 #include "Positions.h"
 #include "Timing.h"
 #include "ai/AttackerRank.h"
-#include "ai/AutoMove.h"
+#include "session/ComputerMoves.h"
 #include "ai/DefenderRank.h"
-#include "ai/SelfPlay.h"
+#include "session/SelfPlay.h"
 #include "core/Analysis.h"
 #include "core/Board.h"
-#include "records/Layouts.h"
+#include "session/LayoutCommands.h"
 #include "support/RecordingView.h"
 
 namespace jv::bench {

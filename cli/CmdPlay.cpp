@@ -1,17 +1,18 @@
 #include <iostream>
 #include <optional>
 
-#include "ai/AutoMove.h"
+#include "session/ComputerMoves.h"
 #include "cli/CliView.h"
 #include "cli/Commands.h"
 #include "core/Move.h"
-#include "core/Pointer.h"
-#include "records/Layouts.h"
+#include "session/PlayerMoves.h"
+#include "session/Pointer.h"
+#include "session/LayoutCommands.h"
 #include "records/Notation.h"
 #include "records/Configuration.h"
 #include "records/PositionRecord.h"
 #include "records/TextFile.h"
-#include "records/Undo.h"
+#include "session/Undo.h"
 
 namespace jv::cli {
 

@@ -4,7 +4,7 @@
 #include <map>
 #include <memory>
 
-#include "ai/SelfPlay.h"
+#include "session/SelfPlay.h"
 #include "cli/CliView.h"
 #include "cli/Commands.h"
 #include "cli/GameLoad.h"

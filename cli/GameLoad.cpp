@@ -3,7 +3,7 @@
 #include <iostream>
 
 #include "cli/Commands.h"
-#include "records/Layouts.h"
+#include "session/LayoutCommands.h"
 #include "records/TextFile.h"
 
 namespace jv::cli {

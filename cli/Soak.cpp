@@ -6,16 +6,17 @@
 #include <filesystem>
 #include <vector>
 
-#include "ai/AutoMove.h"
-#include "ai/SelfPlay.h"
+#include "session/ComputerMoves.h"
+#include "session/SelfPlay.h"
 #include "cli/CliView.h"
 #include "cli/Commands.h"
 #include "cli/GameLoad.h"
 #include "core/Analysis.h"
 #include "core/Move.h"
+#include "session/PlayerMoves.h"
 #include "core/VbText.h"
-#include "records/Layouts.h"
-#include "records/MovesLog.h"
+#include "session/LayoutCommands.h"
+#include "session/Recording.h"
 #include "records/PositionRecord.h"
 #include "records/TextFile.h"
 

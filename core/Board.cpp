@@ -55,6 +55,8 @@ void SetHomeSquares(Game& g, int code) {
     g.Board(g.BoardWidth, g.BoardHeight) = code;
 }
 
+bool IsKingOn(const Game& g, int col, int row) { return col == g.KingCol && row == g.KingRow; }
+
 bool IsCorner(const Game& g, int col, int row) {
     return (col == 1 || col == g.BoardWidth) && (row == 1 || row == g.BoardHeight);
 }

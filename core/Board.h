@@ -18,6 +18,9 @@ void SetHomeSquares(Game& g, int code);
 // 99 when the King stands on one of the four corners, else 0.
 int KingAtHome(const Game& g);
 
+// True when the King stands on (col, row).
+bool IsKingOn(const Game& g, int col, int row);
+
 // True for the four corner squares of the board in play.
 bool IsCorner(const Game& g, int col, int row);
 

@@ -18,10 +18,11 @@ void CaptureAround(Game& g, int col, int row);
 // edge, a Home corner beside him counting as an attacker.
 int CheckKingCapture(Game& g);
 
-// The computer's moves and the user's drop.
-void MakeAttackerMove(Game& g, int fromCol, int fromRow, int toCol, int toRow);
-void MakeDefenderMove(Game& g, int fromCol, int fromRow, int toCol, int toRow);
-void DropPiece(Game& g, int col, int row);
+// A move's pauses let pending events run, so the user's clicks arrive in the
+// middle of it. What is left of the move belongs to the game it began in:
+// once a load has set up another board (reset, load, the editor switched
+// off, a replay) or the program is ending, it has nothing left to act on.
+bool GameGoesOn(const Game& g, int gameNumber);
 
 // The drag line and its marker: one line serves the user's drag and the
 // computer's move animation.

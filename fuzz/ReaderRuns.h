@@ -24,8 +24,8 @@
 #include "records/ColourScheme.h"
 #include "records/Configuration.h"
 #include "records/LayoutFile.h"
-#include "records/Layouts.h"
-#include "records/MovesLog.h"
+#include "session/LayoutCommands.h"
+#include "session/Recording.h"
 #include "records/PositionRecord.h"
 #include "records/TextFile.h"
 

@@ -1,7 +1,7 @@
 // The board picture while the layout editor is on: it shows the position
 // the editor holds, and a press on a square (or a sweep over several with
 // the button held) asks for the chosen kind to be placed there.
-#include "core/LayoutEditor.h"
+#include "session/LayoutEditor.h"
 #include "ui/BoardPicture.h"
 
 namespace jv::ui {

@@ -3,7 +3,7 @@
 #include <QPainter>
 #include <QResizeEvent>
 
-#include "core/Pointer.h"
+#include "session/Pointer.h"
 #include "core/Reach.h"
 #include "ui/BoardPainter.h"
 #include "ui/ColourValue.h"

@@ -4,7 +4,7 @@
 // the layout editor is on, presses go to the editor instead.
 #include <QMouseEvent>
 
-#include "core/Pointer.h"
+#include "session/Pointer.h"
 #include "ui/BoardPainter.h"
 #include "ui/BoardPicture.h"
 #include "ui/Surface.h"

@@ -4,7 +4,7 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
-#include "core/LayoutEditor.h"
+#include "session/LayoutEditor.h"
 #include "ui/SquareSample.h"
 #include "ui/widgets/PictureButton.h"
 

@@ -6,7 +6,7 @@
 #include <QCloseEvent>
 #include <QTimer>
 
-#include "core/Session.h"
+#include "session/Session.h"
 #include "ui/BoardPicture.h"
 #include "ui/ColourValue.h"
 #include "ui/widgets/LineList.h"

@@ -6,13 +6,13 @@
 
 #include "ai/AttackerPlan.h"
 #include "ai/AttackerRank.h"
-#include "ai/AutoMove.h"
+#include "session/ComputerMoves.h"
 #include "ai/KingRoutes.h"
 #include "core/Analysis.h"
 #include "core/Board.h"
 #include "core/SortedList.h"
 #include "core/VbText.h"
-#include "records/Layouts.h"
+#include "session/LayoutCommands.h"
 #include "support/Fixtures.h"
 
 using namespace jv;

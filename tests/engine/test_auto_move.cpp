@@ -7,12 +7,12 @@
 #include <vector>
 
 #include "ai/AttackerRank.h"
-#include "ai/AutoMove.h"
-#include "ai/SelfPlay.h"
+#include "session/ComputerMoves.h"
+#include "session/SelfPlay.h"
 #include "core/Board.h"
-#include "core/Session.h"
+#include "session/Session.h"
 #include "core/VbText.h"
-#include "records/Layouts.h"
+#include "session/LayoutCommands.h"
 #include "records/PositionRecord.h"
 #include "support/Fixtures.h"
 

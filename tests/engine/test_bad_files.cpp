@@ -1,8 +1,8 @@
 // Damaged files never leave a broken game: each gives its message once and a playable board stays.
 #include <gtest/gtest.h>
 
-#include "records/Layouts.h"
-#include "records/MovesLog.h"
+#include "session/LayoutCommands.h"
+#include "session/Recording.h"
 #include "records/PositionRecord.h"
 #include "support/Fixtures.h"
 

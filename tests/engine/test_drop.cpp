@@ -3,7 +3,8 @@
 #include <algorithm>
 
 #include "core/Move.h"
-#include "core/Session.h"
+#include "session/PlayerMoves.h"
+#include "session/Session.h"
 #include "records/PositionRecord.h"
 #include "support/Fixtures.h"
 

@@ -1,14 +1,15 @@
 #include <gtest/gtest.h>
 
 #include "core/Move.h"
-#include "core/Pointer.h"
+#include "session/PlayerMoves.h"
+#include "session/Pointer.h"
 #include "records/GameRecord.h"
-#include "records/GameRecordExport.h"
+#include "session/GameRecordExport.h"
 #include "records/LayoutFile.h"
-#include "records/Layouts.h"
+#include "session/LayoutCommands.h"
 #include "records/PositionRecord.h"
 #include "records/TextFile.h"
-#include "records/Undo.h"
+#include "session/Undo.h"
 #include "support/Fixtures.h"
 
 using namespace jv;

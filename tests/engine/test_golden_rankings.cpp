@@ -6,7 +6,7 @@
 
 #include "ai/AttackerRank.h"
 #include "ai/DefenderRank.h"
-#include "records/Layouts.h"
+#include "session/LayoutCommands.h"
 #include "support/Fixtures.h"
 
 using namespace jv;

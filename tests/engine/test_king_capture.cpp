@@ -2,7 +2,8 @@
 
 #include "core/Board.h"
 #include "core/Move.h"
-#include "core/Session.h"
+#include "session/PlayerMoves.h"
+#include "session/Session.h"
 #include "support/Fixtures.h"
 
 using namespace jv;

@@ -2,11 +2,11 @@
 
 #include <filesystem>
 
-#include "core/LayoutEditor.h"
-#include "records/Layouts.h"
-#include "records/MovesLog.h"
+#include "session/LayoutEditor.h"
+#include "session/LayoutCommands.h"
+#include "session/Recording.h"
 #include "records/PositionRecord.h"
-#include "records/Undo.h"
+#include "session/Undo.h"
 #include "support/Fixtures.h"
 
 using namespace jv;

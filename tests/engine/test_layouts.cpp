@@ -5,7 +5,7 @@
 
 #include "core/Board.h"
 #include "records/LayoutFile.h"
-#include "records/Layouts.h"
+#include "session/LayoutCommands.h"
 #include "records/PositionRecord.h"
 #include "support/Fixtures.h"
 #include "support/RunCli.h"

@@ -2,6 +2,7 @@
 
 #include "core/Board.h"
 #include "core/Move.h"
+#include "session/PlayerMoves.h"
 #include "records/PositionRecord.h"
 #include "support/Fixtures.h"
 

@@ -3,10 +3,10 @@
 #include <filesystem>
 #include <regex>
 
-#include "records/Layouts.h"
-#include "records/MovesLog.h"
+#include "session/LayoutCommands.h"
+#include "session/Recording.h"
 #include "records/PositionRecord.h"
-#include "records/Undo.h"
+#include "session/Undo.h"
 #include "support/Fixtures.h"
 #include "support/RunCli.h"
 

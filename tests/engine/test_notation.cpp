@@ -6,7 +6,7 @@
 
 #include "core/Board.h"
 #include "records/LayoutFile.h"
-#include "records/Layouts.h"
+#include "session/LayoutCommands.h"
 #include "records/Notation.h"
 #include "records/Otn.h"
 #include "records/OtnFile.h"

@@ -2,10 +2,11 @@
 
 #include "core/Board.h"
 #include "core/Move.h"
+#include "session/PlayerMoves.h"
 #include "core/Perft.h"
-#include "core/Pointer.h"
+#include "session/Pointer.h"
 #include "core/Reach.h"
-#include "core/Session.h"
+#include "session/Session.h"
 #include "records/LayoutFile.h"
 #include "records/PositionRecord.h"
 #include "support/Fixtures.h"

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "core/Pointer.h"
+#include "session/Pointer.h"
+#include "session/PlayerMoves.h"
 #include "records/PositionRecord.h"
 #include "support/Fixtures.h"
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "core/Session.h"
+#include "session/Session.h"
 #include "support/Fixtures.h"
 
 using namespace jv;

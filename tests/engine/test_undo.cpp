@@ -2,7 +2,7 @@
 
 #include "core/Analysis.h"
 #include "records/PositionRecord.h"
-#include "records/Undo.h"
+#include "session/Undo.h"
 #include "support/Fixtures.h"
 
 using namespace jv;

@@ -8,7 +8,7 @@
 #include <QtTest>
 
 #include "WindowFixture.h"
-#include "core/LayoutEditor.h"
+#include "session/LayoutEditor.h"
 #include "records/PositionRecord.h"
 #include "ui/EditorPalette.h"
 #include "ui/widgets/PictureButton.h"

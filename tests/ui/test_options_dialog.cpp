@@ -14,7 +14,7 @@
 #include <functional>
 
 #include "WindowFixture.h"
-#include "core/Session.h"
+#include "session/Session.h"
 #include "records/Configuration.h"
 #include "ui/ColourValue.h"
 #include "ui/Form2.h"

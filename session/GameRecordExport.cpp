@@ -1,11 +1,11 @@
-#include "records/GameRecordExport.h"
+#include "session/GameRecordExport.h"
 
 #include <filesystem>
 #include <system_error>
 
 #include "core/GameView.h"
 #include "core/VbText.h"
-#include "records/FileChoice.h"
+#include "session/FileChoice.h"
 #include "records/GameRecord.h"
 #include "records/PositionRecord.h"
 #include "records/TextFile.h"

@@ -1,4 +1,4 @@
-#include "records/FileChoice.h"
+#include "session/FileChoice.h"
 
 #include <filesystem>
 #include <system_error>

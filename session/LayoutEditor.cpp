@@ -1,9 +1,9 @@
-#include "core/LayoutEditor.h"
+#include "session/LayoutEditor.h"
 
 #include "core/Board.h"
 #include "core/GameView.h"
 #include "records/LayoutFile.h"
-#include "records/Layouts.h"
+#include "session/LayoutCommands.h"
 
 namespace jv {
 

@@ -1,4 +1,4 @@
-#include "records/Layouts.h"
+#include "session/LayoutCommands.h"
 
 #include <filesystem>
 #include <system_error>
@@ -8,8 +8,9 @@
 #include "core/Board.h"
 #include "core/EventLog.h"
 #include "core/GameView.h"
-#include "records/FileChoice.h"
+#include "session/FileChoice.h"
 #include "records/LayoutFile.h"
+#include "records/Otn.h"
 #include "records/OtnFile.h"
 #include "records/TextFile.h"
 
@@ -118,6 +119,29 @@ bool LoadLayout(Game& g, const std::string& path) {
     StartGameOnBoard(g);
     PrintLog(g, "Loaded Layout: " + path, 0, 0);
     EnablePlay(g);
+    return true;
+}
+
+bool LoadOtnFile(Game& g, const std::string& name) {
+    std::string otn, layout, reason;
+    if (!ReadFirstLine(InProgramFolder(g, name), otn)) {
+        g.View->Show("OpenTafl Position File:\r\n" + name + "\r\ncould not be read", "vbcritical+vbok");
+        return false;
+    }
+    if (!OtnToLayoutLine(otn, layout, reason)) {
+        g.View->Show("OpenTafl Position File:\r\n" + name + "\r\nholds no position JarlsVakt can play: " + reason,
+                     "vbcritical+vbok");
+        return false;
+    }
+    const std::string path = g.ProgramFolder + "otnlayout.txt";
+    if (!WriteFileAtomically(path, layout + "\r\n")) {
+        g.View->Show("Layout File:\r\n" + path + "\r\ncould not be written, the position is not loaded",
+                     "vbcritical+vbok");
+        return false;
+    }
+    LoadLayout(g, path);
+    if (g.LayoutFile != path) return false;   // reported by LoadLayout
+    PrintLog(g, "OpenTafl position: " + name, 0, 0);
     return true;
 }
 

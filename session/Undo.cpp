@@ -1,4 +1,4 @@
-#include "records/Undo.h"
+#include "session/Undo.h"
 
 #include "core/GameView.h"
 #include "core/VbText.h"

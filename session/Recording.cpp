@@ -1,16 +1,16 @@
-#include "records/MovesLog.h"
+#include "session/Recording.h"
 
 #include <ctime>
 #include <vector>
 
 #include "core/GameView.h"
 #include "core/VbText.h"
-#include "records/FileChoice.h"
+#include "session/FileChoice.h"
 #include "records/LayoutFile.h"
-#include "records/Layouts.h"
+#include "session/LayoutCommands.h"
 #include "records/PositionRecord.h"
 #include "records/TextFile.h"
-#include "records/Undo.h"
+#include "session/Undo.h"
 
 namespace jv {
 

@@ -1,6 +1,6 @@
-#include "ai/SelfPlay.h"
+#include "session/SelfPlay.h"
 
-#include "ai/AutoMove.h"
+#include "session/ComputerMoves.h"
 #include "core/Board.h"
 #include "core/Move.h"
 

@@ -1,4 +1,4 @@
-#include "ai/AutoMove.h"
+#include "session/ComputerMoves.h"
 
 #include <cmath>
 
@@ -8,9 +8,10 @@
 #include "core/Board.h"
 #include "core/GameView.h"
 #include "core/Move.h"
+#include "session/PlayerMoves.h"
 #include "core/SortedList.h"
 #include "core/VbText.h"
-#include "records/Undo.h"
+#include "session/Undo.h"
 
 namespace jv {
 

@@ -1,12 +1,12 @@
-#include "core/Session.h"
+#include "session/Session.h"
 
-#include "ai/AutoMove.h"
+#include "session/ComputerMoves.h"
 #include "core/Board.h"
 #include "core/EventLog.h"
 #include "core/GameView.h"
 #include "records/ColourScheme.h"
 #include "records/Configuration.h"
-#include "records/Layouts.h"
+#include "session/LayoutCommands.h"
 #include "records/ProgramFolder.h"
 #include "records/TextFile.h"
 

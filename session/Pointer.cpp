@@ -1,9 +1,10 @@
-#include "core/Pointer.h"
+#include "session/Pointer.h"
 
 #include <string_view>
 
 #include "core/Board.h"
 #include "core/Move.h"
+#include "session/PlayerMoves.h"
 #include "core/Reach.h"
 
 namespace jv {

@@ -10,6 +10,13 @@ namespace jv {
 // (then the shipped opening, then an empty board). True when path was loaded.
 bool LoadLayout(Game& g, const std::string& path);
 
+// Loads the position of an .otn file: it becomes the layout file
+// "otnlayout.txt" of the program's folder, which LoadLayout then loads like
+// any layout, so the game starts as from a layout file. A file that cannot
+// be read or holds no position of this program is reported and the game
+// stays as it was; false then.
+bool LoadOtnFile(Game& g, const std::string& name);
+
 // Shows the part of LayoutFile after its last folder separator as the
 // layout caption, with the whole name as tool tip.
 void ShowLayoutName(Game& g);

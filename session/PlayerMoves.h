@@ -1,0 +1,14 @@
+#pragma once
+#include "core/Game.h"
+
+namespace jv {
+
+// The moves that reach the board from a player: the computer's moves, shown
+// for a second first, and the user's drop, which the computer then answers.
+// Each is recorded for undo and ends the game when the King is taken or home.
+
+void MakeAttackerMove(Game& g, int fromCol, int fromRow, int toCol, int toRow);
+void MakeDefenderMove(Game& g, int fromCol, int fromRow, int toCol, int toRow);
+void DropPiece(Game& g, int col, int row);
+
+}  // namespace jv
