@@ -8,6 +8,7 @@
 namespace jv::cli {
 
 namespace {
+
 void PrintSquaresWhere(const Game& g, const char* label, const Grid<std::int8_t>& flags) {
     std::string items;
     for (int col = 1; col <= g.BoardWidth; ++col)
@@ -15,19 +16,10 @@ void PrintSquaresWhere(const Game& g, const char* label, const Grid<std::int8_t>
             if (flags(col, row)) items += SquareItem(col, row);
     std::cout << label << ' ' << items << '\n';
 }
-}  // namespace
 
-int RunAnalyse(const Args& args) {
-    if (args.size() != 1) {
-        std::cerr << "usage: jarlsvakt-cli analyse FILE|-\n";
-        return 1;
-    }
-    CliView view;
-    Game g;
-    PrepareGame(g, view);
-    if (!ReadLayoutArgument(g, args[0])) return 2;
+// The analysis lines, in the order a reader of them expects.
+void PrintAnalysis(Game& g) {
     AnalysePosition(g);
-
     std::cout << "size " << g.BoardWidth << ' ' << g.BoardHeight << '\n';
     std::cout << "king " << SquareText(g.KingCol, g.KingRow) << '\n';
     for (int col = 1; col <= g.BoardWidth; ++col)
@@ -40,7 +32,10 @@ int RunAnalyse(const Args& args) {
     std::cout << "chances1 " << g.CaptureChances[1] << '\n';
     std::cout << "kingcapture " << g.KingCaptureSquares << '\n';
     std::cout << "counters " << g.DefenderCount << ' ' << g.AttackerCount << '\n';
-    return 0;
 }
+
+}  // namespace
+
+int RunAnalyse(const Args& args) { return RunOnLayoutArgument(args, "analyse FILE|-", PrintAnalysis); }
 
 }  // namespace jv::cli

@@ -7,17 +7,10 @@
 namespace jv::cli {
 
 int RunLayout(const Args& args) {
-    if (args.size() != 1) {
-        std::cerr << "usage: jarlsvakt-cli layout FILE|-\n";
-        return 1;
-    }
-    CliView view;
-    Game g;
-    PrepareGame(g, view);
-    if (!ReadLayoutArgument(g, args[0])) return 2;
-    std::cout << LayoutLine(g) << '\n';
-    PrintGrid(g, std::cout);
-    return 0;
+    return RunOnLayoutArgument(args, "layout FILE|-", [](Game& g) {
+        std::cout << LayoutLine(g) << '\n';
+        PrintGrid(g, std::cout);
+    });
 }
 
 }  // namespace jv::cli

@@ -9,33 +9,20 @@ namespace jv::cli {
 
 // The OpenTafl position of a layout.
 int RunOtn(const Args& args) {
-    if (args.size() != 1) {
-        std::cerr << "usage: jarlsvakt-cli otn FILE|-\n";
-        return 1;
-    }
-    CliView view;
-    Game g;
-    PrepareGame(g, view);
-    if (!ReadLayoutArgument(g, args[0])) return 2;
-    std::cout << OtnPosition(g) << '\n';
-    return 0;
+    return RunOnLayoutArgument(args, "otn FILE|-", [](Game& g) { std::cout << OtnPosition(g) << '\n'; });
 }
 
 // A layout file made from an OpenTafl position; the layout line is printed
 // too. OUT is taken as given, from the current folder.
 int RunFromOtn(const Args& args) {
-    if (args.size() != 2) {
-        std::cerr << "usage: jarlsvakt-cli from-otn POSITION OUT\n";
-        return 1;
-    }
+    if (!HasArguments(args, 2, "from-otn POSITION OUT")) return 1;
     std::string line, reason;
     if (!OtnToLayoutLine(args[0], line, reason)) {
         std::cerr << "Not an OpenTafl position JarlsVakt can play: " << reason << '\n';
         return 2;
     }
-    CliView view;
-    Game g;
-    PrepareGame(g, view);
+    CommandGame game;
+    Game& g = game.g;
     if (ApplyLayoutLine(g, line) || !WriteLayoutFile(g, args[1])) {
         std::cerr << "Layout File:\n" << args[1] << "\ncould not be written\n";
         return 2;

@@ -42,10 +42,8 @@ int RunPerft(const Args& args) {
         return 1;
     }
 
-    CliView view;
-    view.Quiet = true;
-    Game g;
-    PrepareGame(g, view);
+    CommandGame game(true);
+    Game& g = game.g;
     if (!ReadLayoutArgument(g, plain[0])) return 2;
 
     std::uint64_t total = depth == 0 ? 1 : 0;

@@ -118,9 +118,8 @@ int RunPlay(const Args& args) {
         return 1;
     }
 
-    CliView view;
-    Game g;
-    PrepareGame(g, view);
+    CommandGame game;
+    Game& g = game.g;
     g.Check1 = autoReply;
     if (seed) {
         // The computer players reseed from the timer before they draw: a

@@ -4,7 +4,6 @@
 #include "ai/DefenderRank.h"
 #include "cli/CliView.h"
 #include "cli/Commands.h"
-#include "cli/GameLoad.h"
 
 namespace jv::cli {
 
@@ -35,10 +34,8 @@ int RunRank(const Args& args) {
         mode = args[3] == "1" ? 1 : 0;
     }
 
-    CliView view;
-    view.Quiet = true;
-    Game g;
-    PrepareGame(g, view);
+    CommandGame game(true);
+    Game& g = game.g;
     if (!LoadLayoutArgument(g, args[1])) return 2;
 
     if (attackers) {

@@ -10,22 +10,15 @@ namespace jv::cli {
 // A moves log as a game record in standard move notation; a log whose
 // positions are not one move apart is reported at its first bad line.
 int RunRecord(const Args& args) {
-    if (args.size() != 1) {
-        std::cerr << "usage: jarlsvakt-cli record LOGFILE\n";
-        return 1;
-    }
-    CliView view;
-    Game g;
-    PrepareGame(g, view);
-    std::vector<std::string> lines;
-    if (!ReadMovesLogArgument(g, args[0], lines)) return 2;
-    const GameRecordResult record = MakeGameRecord(lines);
-    if (!record.Ok) {
-        std::cerr << "Moves Log File:\n" << args[0] << "\nline " << record.BadLine << ": " << record.Reason << '\n';
-        return 2;
-    }
-    for (const std::string& line : record.Lines) std::cout << line << '\n';
-    return 0;
+    return RunOnMovesLogArgument(args, "record LOGFILE", [&](Game&, const std::vector<std::string>& lines) {
+        const GameRecordResult record = MakeGameRecord(lines);
+        if (!record.Ok) {
+            std::cerr << "Moves Log File:\n" << args[0] << "\nline " << record.BadLine << ": " << record.Reason << '\n';
+            return 2;
+        }
+        for (const std::string& line : record.Lines) std::cout << line << '\n';
+        return 0;
+    });
 }
 
 }  // namespace jv::cli

@@ -7,7 +7,6 @@
 #include "session/SelfPlay.h"
 #include "cli/CliView.h"
 #include "cli/Commands.h"
-#include "cli/GameLoad.h"
 #include "core/VbText.h"
 #include "records/PositionRecord.h"
 #include "records/TextFile.h"
@@ -90,10 +89,8 @@ int RunSelfplay(const Args& args) {
     long long totalMoves = 0;
     const auto started = std::chrono::steady_clock::now();
     for (int game = 1; game <= o.Games; ++game) {
-        CliView view;
-        view.Quiet = true;
-        Game g;
-        PrepareGame(g, view);
+        CommandGame played(true);
+        Game& g = played.g;
         if (!LoadLayoutArgument(g, o.File)) return 2;
         if (o.Seeded) SeedTimer(g, o.Seed, game);
         if (!o.LogFolder.empty()) {

@@ -1,4 +1,6 @@
 #pragma once
+#include "cli/CliView.h"
+#include <functional>
 #include <iosfwd>
 #include <string>
 #include <vector>
@@ -12,6 +14,7 @@ namespace jv::cli {
 using Args = std::vector<std::string>;
 
 int RunAnalyse(const Args& args);
+int RunBench(const Args& args);
 int RunLayout(const Args& args);
 int RunReplay(const Args& args);
 int RunPerft(const Args& args);
@@ -23,9 +26,33 @@ int RunOtn(const Args& args);
 int RunFromOtn(const Args& args);
 int RunRecord(const Args& args);
 
+// A game set up for one command: its own view, the program's folder and the
+// column letters.
+struct CommandGame {
+    explicit CommandGame(bool quiet = false);
+    CommandGame(const CommandGame&) = delete;
+    CommandGame& operator=(const CommandGame&) = delete;
+    CliView view;
+    Game g;
+};
+
 // Prepares a game for a command: the program's folder, the column letters,
 // the given view.
 void PrepareGame(Game& g, GameView& view);
+
+// True when the command got exactly count arguments; else prints its usage
+// line on standard error.
+bool HasArguments(const Args& args, std::size_t count, const char* usage);
+
+// The commands that print something of one layout (FILE, or "-" for a layout
+// line on standard input): checks the arguments, reads the layout into a new
+// game and hands it to print. Returns the command's exit code.
+int RunOnLayoutArgument(const Args& args, const char* usage, const std::function<void(Game&)>& print);
+
+// The commands that print something of one moves log: checks the arguments,
+// reads the log's lines and hands them to print, which returns the exit code.
+int RunOnMovesLogArgument(const Args& args, const char* usage,
+                          const std::function<int(Game&, const std::vector<std::string>&)>& print);
 
 // A file named on the command line: as given when it exists from the current
 // folder, else taken from the program's folder like every name without a folder.
@@ -35,6 +62,12 @@ std::string ResolveArgument(const Game& g, const std::string& name);
 // when the name is "-". On failure prints "Error reading Layout File:" and
 // the name on standard error and returns false.
 bool ReadLayoutArgument(Game& g, const std::string& name);
+
+// Starts a game on the layout file named on the command line the way the
+// program does, through LoadLayout, so the game's tables are those of a
+// freshly loaded layout. On failure prints "Error reading Layout File:" and
+// the name on standard error and returns false.
+bool LoadLayoutArgument(Game& g, const std::string& name);
 
 // Reads every line of a moves log named on the command line. On failure (a
 // log that cannot be read, or holds no line) prints the reason on standard

@@ -6,8 +6,37 @@
 #include "records/LayoutFile.h"
 #include "records/ProgramFolder.h"
 #include "records/TextFile.h"
+#include "session/LayoutCommands.h"
 
 namespace jv::cli {
+
+CommandGame::CommandGame(bool quiet) {
+    view.Quiet = quiet;
+    PrepareGame(g, view);
+}
+
+bool HasArguments(const Args& args, std::size_t count, const char* usage) {
+    if (args.size() == count) return true;
+    std::cerr << "usage: jarlsvakt-cli " << usage << '\n';
+    return false;
+}
+
+int RunOnLayoutArgument(const Args& args, const char* usage, const std::function<void(Game&)>& print) {
+    if (!HasArguments(args, 1, usage)) return 1;
+    CommandGame game;
+    if (!ReadLayoutArgument(game.g, args[0])) return 2;
+    print(game.g);
+    return 0;
+}
+
+int RunOnMovesLogArgument(const Args& args, const char* usage,
+                          const std::function<int(Game&, const std::vector<std::string>&)>& print) {
+    if (!HasArguments(args, 1, usage)) return 1;
+    CommandGame game;
+    std::vector<std::string> lines;
+    if (!ReadMovesLogArgument(game.g, args[0], lines)) return 2;
+    return print(game.g, lines);
+}
 
 void PrepareGame(Game& g, GameView& view) {
     g.View = &view;
@@ -33,6 +62,16 @@ bool ReadLayoutArgument(Game& g, const std::string& name) {
     }
     if (failed) std::cerr << "Error reading Layout File:\n" << name << '\n';
     return !failed;
+}
+
+bool LoadLayoutArgument(Game& g, const std::string& name) {
+    const std::string path = ResolveArgument(g, name);
+    std::string line;
+    // LoadLayout falls back on the previous layout when a file cannot be
+    // read; a command must not work on some other position instead.
+    if (ReadFirstLine(path, line) && !line.empty() && LoadLayout(g, path)) return true;
+    std::cerr << "Error reading Layout File:\n" << name << '\n';
+    return false;
 }
 
 bool ReadMovesLogArgument(const Game& g, const std::string& name, std::vector<std::string>& lines) {

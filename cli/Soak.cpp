@@ -10,7 +10,6 @@
 #include "session/SelfPlay.h"
 #include "cli/CliView.h"
 #include "cli/Commands.h"
-#include "cli/GameLoad.h"
 #include "core/Analysis.h"
 #include "core/Move.h"
 #include "session/PlayerMoves.h"

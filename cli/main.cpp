@@ -16,6 +16,7 @@ const std::map<std::string, Command>& Commands() {
     using namespace jv::cli;
     static const std::map<std::string, Command> commands = {
         {"analyse", {RunAnalyse, "analyse FILE|-      print the analysis of a layout"}},
+        {"bench", {RunBench, "bench               the fixed benchmark work: its times, node count and signature"}},
         {"layout", {RunLayout, "layout FILE|-       print a layout line and its board"}},
         {"replay", {RunReplay, "replay LOGFILE      print every position of a moves log"}},
         {"play", {RunPlay, "play FILE [--auto-reply] [--seed N] MOVE...  play moves and print what happens"}},
