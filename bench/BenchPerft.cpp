@@ -6,14 +6,14 @@
 #include "Timing.h"
 #include "core/Board.h"
 #include "core/Perft.h"
+#include "core/SilentView.h"
 #include "records/LayoutFile.h"
-#include "support/RecordingView.h"
 
 namespace jv::bench {
 
 bool BenchPerft() {
     const std::string path = std::string(JARLSVAKT_DATA_DIR) + "/patf.txt";
-    test::RecordingView view;
+    SilentView view;
     Game g;
     g.View = &view;
     BuildColumnLetters(g);

@@ -10,13 +10,13 @@
 #include "Positions.h"
 #include "Timing.h"
 #include "ai/AttackerRank.h"
-#include "session/ComputerMoves.h"
 #include "ai/DefenderRank.h"
-#include "session/SelfPlay.h"
 #include "core/Analysis.h"
 #include "core/Board.h"
+#include "core/SilentView.h"
+#include "session/ComputerMoves.h"
 #include "session/LayoutCommands.h"
-#include "support/RecordingView.h"
+#include "session/SelfPlay.h"
 
 namespace jv::bench {
 
@@ -24,7 +24,7 @@ namespace {
 
 // A game freshly loaded from a layout file, as the program starts one.
 struct LoadedGame {
-    test::RecordingView View;
+    SilentView View;
     Game G;
     bool Load(const std::string& path) {
         G.View = &View;
@@ -45,30 +45,6 @@ double CpuMicros(Body body, int calls = 200) {
     for (int i = 0; i < calls; ++i) body();
     clock_gettime(CLOCK_THREAD_CPUTIME_ID, &end);
     return ((end.tv_sec - start.tv_sec) * 1e6 + (end.tv_nsec - start.tv_nsec) / 1e3) / calls;
-}
-
-// FNV-1a over the lines, each ended by a line feed.
-void Mix(std::uint64_t& hash, const std::vector<std::string>& lines) {
-    for (const std::string& line : lines) {
-        for (unsigned char c : line) hash = (hash ^ c) * 1099511628211ULL;
-        hash = (hash ^ '\n') * 1099511628211ULL;
-    }
-}
-
-// The rankings of a fresh game on the layout: attackers, then defenders in
-// mode 1, each on its own fresh game.
-bool MixRankings(std::uint64_t& hash, const std::string& path) {
-    LoadedGame attackers;
-    if (!attackers.Load(path)) return false;
-    GetAttackerRank(attackers.G);
-    Mix(hash, attackers.G.AttackerMovesRank);
-    Mix(hash, attackers.G.List1A);
-    LoadedGame defenders;
-    if (!defenders.Load(path)) return false;
-    GetDefenderRank(defenders.G, 1);
-    Mix(hash, defenders.G.DefenderMovesRank);
-    Mix(hash, defenders.G.List1D);
-    return true;
 }
 
 // Games between the two computer players on patf.txt. From the opening
@@ -100,14 +76,12 @@ void BenchSelfPlay() {
 }  // namespace
 
 bool BenchRank() {
-    std::uint64_t signature = 1469598103934665603ULL;
     for (const BenchPosition& p : BenchPositions()) {
-        if (!MixRankings(signature, p.Path)) {
+        LoadedGame loaded;
+        if (!loaded.Load(p.Path)) {
             std::printf("cannot read %s\n", p.Path.c_str());
             return false;
         }
-        LoadedGame loaded;
-        loaded.Load(p.Path);
         Game& g = loaded.G;
         // Each call starts from freshly analysed tables, as after a move; the
         // analysis is a few microseconds of the figure.
@@ -124,7 +98,6 @@ bool BenchRank() {
         Report("GetDefenderRank(1)", p.Name, MedianMicros(defenders, 11, 20));
         Report("  processor time", p.Name, CpuMicros(defenders));
     }
-    std::printf("ranking signature: %016llx\n", static_cast<unsigned long long>(signature));
     BenchSelfPlay();
     return true;
 }

@@ -6,14 +6,14 @@
 #include "Timing.h"
 #include "core/Analysis.h"
 #include "core/Board.h"
+#include "core/SilentView.h"
 #include "records/LayoutFile.h"
-#include "support/RecordingView.h"
 
 int main() {
     using namespace jv;
     std::printf("%-28s %-22s %15s\n", "what", "position", "median per call");
     for (const bench::BenchPosition& p : bench::BenchPositions()) {
-        test::RecordingView view;
+        SilentView view;
         Game g;
         g.View = &view;
         BuildColumnLetters(g);

@@ -1,17 +1,17 @@
 #include <iostream>
 #include <optional>
 
-#include "session/ComputerMoves.h"
 #include "cli/CliView.h"
 #include "cli/Commands.h"
 #include "core/Move.h"
-#include "session/PlayerMoves.h"
-#include "session/Pointer.h"
-#include "session/LayoutCommands.h"
-#include "records/Notation.h"
 #include "records/Configuration.h"
+#include "records/Notation.h"
 #include "records/PositionRecord.h"
 #include "records/TextFile.h"
+#include "session/ComputerMoves.h"
+#include "session/LayoutCommands.h"
+#include "session/PlayerMoves.h"
+#include "session/Pointer.h"
 #include "session/Undo.h"
 
 namespace jv::cli {

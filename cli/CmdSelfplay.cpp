@@ -4,12 +4,12 @@
 #include <map>
 #include <memory>
 
-#include "session/SelfPlay.h"
 #include "cli/CliView.h"
 #include "cli/Commands.h"
 #include "core/VbText.h"
 #include "records/PositionRecord.h"
 #include "records/TextFile.h"
+#include "session/SelfPlay.h"
 
 namespace jv::cli {
 

@@ -6,18 +6,18 @@
 #include <filesystem>
 #include <vector>
 
-#include "session/ComputerMoves.h"
-#include "session/SelfPlay.h"
 #include "cli/CliView.h"
 #include "cli/Commands.h"
 #include "core/Analysis.h"
 #include "core/Move.h"
-#include "session/PlayerMoves.h"
 #include "core/VbText.h"
-#include "session/LayoutCommands.h"
-#include "session/Recording.h"
 #include "records/PositionRecord.h"
 #include "records/TextFile.h"
+#include "session/ComputerMoves.h"
+#include "session/LayoutCommands.h"
+#include "session/PlayerMoves.h"
+#include "session/Recording.h"
+#include "session/SelfPlay.h"
 
 namespace jv::cli {
 

@@ -8,9 +8,9 @@
 #include "core/Board.h"
 #include "core/GameView.h"
 #include "core/Move.h"
-#include "session/PlayerMoves.h"
 #include "core/SortedList.h"
 #include "core/VbText.h"
+#include "session/PlayerMoves.h"
 #include "session/Undo.h"
 
 namespace jv {

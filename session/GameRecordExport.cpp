@@ -5,10 +5,10 @@
 
 #include "core/GameView.h"
 #include "core/VbText.h"
-#include "session/FileChoice.h"
 #include "records/GameRecord.h"
 #include "records/PositionRecord.h"
 #include "records/TextFile.h"
+#include "session/FileChoice.h"
 
 namespace jv {
 

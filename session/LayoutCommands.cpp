@@ -8,11 +8,11 @@
 #include "core/Board.h"
 #include "core/EventLog.h"
 #include "core/GameView.h"
-#include "session/FileChoice.h"
 #include "records/LayoutFile.h"
 #include "records/Otn.h"
 #include "records/OtnFile.h"
 #include "records/TextFile.h"
+#include "session/FileChoice.h"
 
 namespace jv {
 

@@ -4,8 +4,8 @@
 
 #include "core/Board.h"
 #include "core/Move.h"
-#include "session/PlayerMoves.h"
 #include "core/Reach.h"
+#include "session/PlayerMoves.h"
 
 namespace jv {
 

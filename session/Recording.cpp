@@ -5,11 +5,11 @@
 
 #include "core/GameView.h"
 #include "core/VbText.h"
-#include "session/FileChoice.h"
 #include "records/LayoutFile.h"
-#include "session/LayoutCommands.h"
 #include "records/PositionRecord.h"
 #include "records/TextFile.h"
+#include "session/FileChoice.h"
+#include "session/LayoutCommands.h"
 #include "session/Undo.h"
 
 namespace jv {

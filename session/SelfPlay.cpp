@@ -1,8 +1,8 @@
 #include "session/SelfPlay.h"
 
-#include "session/ComputerMoves.h"
 #include "core/Board.h"
 #include "core/Move.h"
+#include "session/ComputerMoves.h"
 
 namespace jv {
 

@@ -1,14 +1,14 @@
 #include "session/Session.h"
 
-#include "session/ComputerMoves.h"
 #include "core/Board.h"
 #include "core/EventLog.h"
 #include "core/GameView.h"
 #include "records/ColourScheme.h"
 #include "records/Configuration.h"
-#include "session/LayoutCommands.h"
 #include "records/ProgramFolder.h"
 #include "records/TextFile.h"
+#include "session/ComputerMoves.h"
+#include "session/LayoutCommands.h"
 
 namespace jv {
 

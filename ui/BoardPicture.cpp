@@ -3,8 +3,8 @@
 #include <QPainter>
 #include <QResizeEvent>
 
-#include "session/Pointer.h"
 #include "core/Reach.h"
+#include "session/Pointer.h"
 #include "ui/BoardPainter.h"
 #include "ui/ColourValue.h"
 #include "ui/Surface.h"

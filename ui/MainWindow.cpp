@@ -9,8 +9,8 @@
 #include "session/Session.h"
 #include "ui/BoardPicture.h"
 #include "ui/ColourValue.h"
-#include "ui/widgets/LineList.h"
 #include "ui/WindowColours.h"
+#include "ui/widgets/LineList.h"
 
 namespace jv::ui {
 
