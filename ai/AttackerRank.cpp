@@ -19,7 +19,7 @@ namespace {
 
 // Every attacker move but those to the centre, as List2A lines
 // ("0305 <0301") and as numbers in the same order.
-void ListAttackerMoves(Game& g, std::vector<AttackerMove>& moves) {
+void ListAttackerMoves(Game& g, std::vector<Move>& moves) {
     g.List2A.clear();
     moves.clear();
     for (int c = 1; c <= g.BoardWidth; ++c)
@@ -44,14 +44,14 @@ int MoveScore(const Game& g, int defenderScore, int toCol, int toRow) {
 }
 
 // The List1A line: score, defender score, source ">" destination.
-std::string RankLine(int score, int defenderScore, const AttackerMove& m) {
+std::string RankLine(int score, int defenderScore, const Move& m) {
     std::string line = Format(score, "00000");
     line += ' ';
     line += Format(defenderScore, "00000");
     line += ' ';
-    AppendSquareText(line, m.FromCol, m.FromRow);
+    AppendSquareText(line, m.From.Col, m.From.Row);
     line += '>';
-    AppendSquareText(line, m.ToCol, m.ToRow);
+    AppendSquareText(line, m.To.Col, m.To.Row);
     return line;
 }
 
@@ -97,12 +97,12 @@ int ThreatsTo(const Game& g, int a, int b) {
 // with the trial's piece on its new square, so they are taken from the
 // start position's list rather than from a scan of the board; the sum is
 // the same in any order.
-int TrialRankOfGreen(Game& g, std::string& route, const std::vector<Square>& attackers, const AttackerMove& m) {
+int TrialRankOfGreen(Game& g, std::string& route, const std::vector<Square>& attackers, const Move& m) {
     int score = KingScore(g, route);
     SetHomeSquares(g, DefenderCode);
     for (const Square& s : attackers) {
-        const bool moved = s.Col == m.FromCol && s.Row == m.FromRow;
-        score += ThreatsTo(g, moved ? m.ToCol : s.Col, moved ? m.ToRow : s.Row);
+        const bool moved = s.Col == m.From.Col && s.Row == m.From.Row;
+        score += ThreatsTo(g, moved ? m.To.Col : s.Col, moved ? m.To.Row : s.Row);
     }
     SetHomeSquares(g, HomeCode);
     return score;
@@ -112,16 +112,16 @@ int TrialRankOfGreen(Game& g, std::string& route, const std::vector<Square>& att
 // rejected for exposing the piece or opening the King's run is put back
 // without a new analysis, so the tables stay those of the tried position
 // until the next candidate that is scored.
-void TryAttackerMove(Game& g, const AttackerMove& m, int before, std::string& route, TrialTables& tables,
+void TryAttackerMove(Game& g, const Move& m, int before, std::string& route, TrialTables& tables,
                      const std::vector<Square>& attackers) {
     auto putBack = [&] {
-        g.Board(m.FromCol, m.FromRow) = g.Board(m.ToCol, m.ToRow);
-        g.Board(m.ToCol, m.ToRow) = EmptyCode;
+        g.Board(m.From.Col, m.From.Row) = g.Board(m.To.Col, m.To.Row);
+        g.Board(m.To.Col, m.To.Row) = EmptyCode;
     };
-    g.Board(m.ToCol, m.ToRow) = g.Board(m.FromCol, m.FromRow);
-    g.Board(m.FromCol, m.FromRow) = EmptyCode;
+    g.Board(m.To.Col, m.To.Row) = g.Board(m.From.Col, m.From.Row);
+    g.Board(m.From.Col, m.From.Row) = EmptyCode;
     tables.Begin(g, m);
-    if (AttackerExposed(g, m.ToCol, m.ToRow) == 1 || (before != 99 && RouteFromKing(g, route) == 99)) {
+    if (AttackerExposed(g, m.To.Col, m.To.Row) == 1 || (before != 99 && RouteFromKing(g, route) == 99)) {
         tables.Reject(g, m);
         putBack();
         return;
@@ -132,7 +132,7 @@ void TryAttackerMove(Game& g, const AttackerMove& m, int before, std::string& ro
     // With a run home already open the defenders' reply tells the moves
     // apart no more: the plan alone decides.
     if (before == 99) defenderScore = 0;
-    g.List1A.push_back(RankLine(MoveScore(g, defenderScore, m.ToCol, m.ToRow), defenderScore, m));
+    g.List1A.push_back(RankLine(MoveScore(g, defenderScore, m.To.Col, m.To.Row), defenderScore, m));
 }
 
 }  // namespace
@@ -184,15 +184,15 @@ void GetAttackerRank(Game& g) {
     g.AttackerMovesRank.clear();
     PlanAttack(g);
 
-    std::vector<AttackerMove> moves;
+    std::vector<Move> moves;
     ListAttackerMoves(g, moves);
     std::string route;
     const int before = RouteFromKing(g, route);
 
     // The candidates by destination, each destination's in List2A order.
-    std::vector<AttackerMove> byDestination(moves);
-    std::stable_sort(byDestination.begin(), byDestination.end(), [](const AttackerMove& x, const AttackerMove& y) {
-        return x.ToCol != y.ToCol ? x.ToCol < y.ToCol : x.ToRow < y.ToRow;
+    std::vector<Move> byDestination(moves);
+    std::stable_sort(byDestination.begin(), byDestination.end(), [](const Move& x, const Move& y) {
+        return x.To.Col != y.To.Col ? x.To.Col < y.To.Col : x.To.Row < y.To.Row;
     });
 
     g.List1A.clear();
@@ -206,13 +206,13 @@ void GetAttackerRank(Game& g) {
     for (int c = 1; c <= g.BoardWidth; ++c)
         for (int r = 1; r <= g.BoardHeight; ++r) {
             while (next < byDestination.size() &&
-                   (byDestination[next].ToCol < c || (byDestination[next].ToCol == c && byDestination[next].ToRow < r)))
+                   (byDestination[next].To.Col < c || (byDestination[next].To.Col == c && byDestination[next].To.Row < r)))
                 ++next;
             // Read now, after the previous trials: a rejected trial leaves
             // the reach of its own position here.
             if (!g.ReachMap[AttackerCode](c, r)) continue;
-            for (std::size_t k = next; k < byDestination.size() && byDestination[k].ToCol == c &&
-                                       byDestination[k].ToRow == r;
+            for (std::size_t k = next; k < byDestination.size() && byDestination[k].To.Col == c &&
+                                       byDestination[k].To.Row == r;
                  ++k)
                 TryAttackerMove(g, byDestination[k], before, route, tables, attackers);
         }

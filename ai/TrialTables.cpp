@@ -51,24 +51,24 @@ void SideReach::Start(const Game& g, int side) {
     }
 }
 
-void SideReach::AfterMove(const Game& g, const AttackerMove& m, Grid<std::int8_t>& reach) const {
+void SideReach::AfterMove(const Game& g, const Move& m, Grid<std::int8_t>& reach) const {
     const int w = g.BoardWidth, h = g.BoardHeight;
     // The four lines through the two squares swept again on the board as it
     // stands (a move along a line sweeps that line twice, to the same end).
     Grid<std::int8_t> alongCol = alongCol_, alongRow = alongRow_;
     std::int8_t line[MaxLine];
-    for (int r : {m.FromRow, m.ToRow}) {
+    for (int r : {m.From.Row, m.To.Row}) {
         SweepLine(g, side_, 1, r, 1, 0, w, line);
         for (int c = 1; c <= w; ++c) alongCol(c, r) = line[c - 1];
     }
-    for (int c : {m.FromCol, m.ToCol}) {
+    for (int c : {m.From.Col, m.To.Col}) {
         SweepLine(g, side_, c, 1, 0, 1, h, line);
         for (int r = 1; r <= h; ++r) alongRow(c, r) = line[r - 1];
     }
     reach = whole_;
-    for (int r : {m.FromRow, m.ToRow})
+    for (int r : {m.From.Row, m.To.Row})
         for (int c = 1; c <= w; ++c) reach(c, r) = static_cast<std::int8_t>(alongCol(c, r) | alongRow(c, r));
-    for (int c : {m.FromCol, m.ToCol})
+    for (int c : {m.From.Col, m.To.Col})
         for (int r = 1; r <= h; ++r) reach(c, r) = static_cast<std::int8_t>(alongCol(c, r) | alongRow(c, r));
 }
 
@@ -77,7 +77,7 @@ void TrialTables::StartScan(const Game& g) {
     reach_[AttackerCode].Start(g, AttackerCode);
 }
 
-void TrialTables::Begin(Game& g, const AttackerMove& m) {
+void TrialTables::Begin(Game& g, const Move& m) {
     reach_[DefenderCode].AfterMove(g, m, g.ReachMap[DefenderCode]);
     std::string& kingTargets = g.MoveTargets(g.KingCol, g.KingRow);
     kingTargets.clear();
@@ -85,7 +85,7 @@ void TrialTables::Begin(Game& g, const AttackerMove& m) {
         for (char d : {'U', 'D', 'L', 'R'}) AppendReach(g, g.KingCol, g.KingRow, d, kingTargets);
 }
 
-void TrialTables::Reject(Game& g, const AttackerMove& m) {
+void TrialTables::Reject(Game& g, const Move& m) {
     reach_[AttackerCode].AfterMove(g, m, g.ReachMap[AttackerCode]);
     owed_ = m;
     owing_ = true;
@@ -109,12 +109,12 @@ void TrialTables::End(Game& g) {
 void TrialTables::Finish(Game& g) {
     if (!owing_) return;
     owing_ = false;
-    const std::int32_t from = g.Board(owed_.FromCol, owed_.FromRow), to = g.Board(owed_.ToCol, owed_.ToRow);
-    g.Board(owed_.ToCol, owed_.ToRow) = from;
-    g.Board(owed_.FromCol, owed_.FromRow) = EmptyCode;
+    const std::int32_t from = g.Board(owed_.From.Col, owed_.From.Row), to = g.Board(owed_.To.Col, owed_.To.Row);
+    g.Board(owed_.To.Col, owed_.To.Row) = from;
+    g.Board(owed_.From.Col, owed_.From.Row) = EmptyCode;
     AnalysePosition(g);
-    g.Board(owed_.FromCol, owed_.FromRow) = from;
-    g.Board(owed_.ToCol, owed_.ToRow) = to;
+    g.Board(owed_.From.Col, owed_.From.Row) = from;
+    g.Board(owed_.To.Col, owed_.To.Row) = to;
 }
 
 }  // namespace jv

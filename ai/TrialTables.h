@@ -7,11 +7,6 @@
 
 namespace jv {
 
-// A candidate move of the attackers' ranking.
-struct AttackerMove {
-    int FromCol = 0, FromRow = 0, ToCol = 0, ToRow = 0;
-};
-
 // One side's reach (ReachMap) in two halves: the squares its pieces reach
 // by sliding along a line of fixed Row ("U", "D") and along a line of fixed
 // Col ("L", "R"). A move changes only the lines through its two squares, so
@@ -22,7 +17,7 @@ public:
     // Sweeps every line of the position on the board for the side's pieces.
     void Start(const Game& g, int side);
     // The side's reach with the move m made on the board, as it now stands.
-    void AfterMove(const Game& g, const AttackerMove& m, Grid<std::int8_t>& reach) const;
+    void AfterMove(const Game& g, const Move& m, Grid<std::int8_t>& reach) const;
 
 private:
     int side_ = DefenderCode;
@@ -45,9 +40,9 @@ public:
     // Before the first trial, on the start position.
     void StartScan(const Game& g);
     // The move has been made on the board.
-    void Begin(Game& g, const AttackerMove& m);
+    void Begin(Game& g, const Move& m);
     // The move is rejected; it is still on the board.
-    void Reject(Game& g, const AttackerMove& m);
+    void Reject(Game& g, const Move& m);
     // The scored move has been put back.
     void End(Game& g);
     // The scan is over: a rejected last trial leaves the full analysis of
@@ -62,7 +57,7 @@ private:
     std::string keptKingTargets_;
     // The rejected trial whose analysis the tables still owe.
     bool owing_ = false;
-    AttackerMove owed_;
+    Move owed_;
 };
 
 }  // namespace jv

@@ -48,8 +48,8 @@ int RunPerft(const Args& args) {
 
     std::uint64_t total = depth == 0 ? 1 : 0;
     for (const PerftLine& line : PerftDivide(g, depth, side)) {
-        const PerftMove& m = line.Move;
-        std::cout << SquareText(m.FromCol, m.FromRow) << '>' << SquareText(m.ToCol, m.ToRow) << ": " << line.Count
+        const Move& m = line.First;
+        std::cout << SquareText(m.From.Col, m.From.Row) << '>' << SquareText(m.To.Col, m.To.Row) << ": " << line.Count
                   << '\n';
         total += line.Count;
     }

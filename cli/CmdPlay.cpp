@@ -23,14 +23,10 @@ const char* const PlayUsage =
     "  MOVE: user:CCRR>CCRR  attacker:CCRR>CCRR  defender:CCRR>CCRR  red  green  undo\n"
     "        (a move may also be written in standard notation: user:d1-d4)\n";
 
-struct MoveSquares {
-    int FromCol = 0, FromRow = 0, ToCol = 0, ToRow = 0;
-};
-
 struct Step {
     std::string Text;   // as given, for the REFUSED line
     std::string Kind;   // "user", "attacker", "defender", "red", "green", "undo"
-    MoveSquares Squares;
+    Move Squares;
     std::string Standard;   // the move in standard notation ("d1-d4"), read once the board is known
 };
 
@@ -42,11 +38,11 @@ bool AllDigits(const std::string& text) {
 }
 
 // "CCRR>CCRR": two squares, each as its column and row in two digits.
-std::optional<MoveSquares> ParseSquares(const std::string& text) {
+std::optional<Move> ParseSquares(const std::string& text) {
     if (text.size() != 9 || text[4] != '>' || !AllDigits(text.substr(0, 4)) || !AllDigits(text.substr(5)))
         return std::nullopt;
     auto two = [&text](std::size_t at) { return (text[at] - '0') * 10 + (text[at + 1] - '0'); };
-    return MoveSquares{two(0), two(2), two(5), two(7)};
+    return Move{two(0), two(2), two(5), two(7)};
 }
 
 std::optional<Step> ParseStep(const std::string& text) {
@@ -67,27 +63,27 @@ bool InPlay(const Game& g, int col, int row) {
 }
 
 // The user's drag and drop; false when the board did not change.
-bool UserMove(Game& g, const MoveSquares& s) {
+bool UserMove(Game& g, const Move& s) {
     const std::string before = EncodePosition(g);
-    if (BeginDrag(g, s.FromCol, s.FromRow)) EndDrag(g, s.ToCol, s.ToRow);
+    if (BeginDrag(g, s.From.Col, s.From.Row)) EndDrag(g, s.To.Col, s.To.Row);
     return EncodePosition(g) != before;
 }
 
 // Applies one step; false when it was refused.
 bool Apply(Game& g, const Step& step) {
-    MoveSquares s = step.Squares;
+    Move s = step.Squares;
     if (!step.Standard.empty()) {
-        StandardMove move;
+        Move move;
         if (!ReadStandardMove(g, step.Standard, move)) return false;   // no move of this board
-        s = MoveSquares{move.FromCol, move.FromRow, move.ToCol, move.ToRow};
+        s = Move{move.From.Col, move.From.Row, move.To.Col, move.To.Row};
     }
     if (step.Kind == "user") return UserMove(g, s);
     if (step.Kind == "red") MakeRedAutoMove(g);
     else if (step.Kind == "green") MakeGreenAutoMove(g);
     else if (step.Kind == "undo") UndoCommand(g);
-    else if (!InPlay(g, s.FromCol, s.FromRow) || !InPlay(g, s.ToCol, s.ToRow)) return false;
-    else if (step.Kind == "attacker") MakeAttackerMove(g, s.FromCol, s.FromRow, s.ToCol, s.ToRow);
-    else MakeDefenderMove(g, s.FromCol, s.FromRow, s.ToCol, s.ToRow);
+    else if (!InPlay(g, s.From.Col, s.From.Row) || !InPlay(g, s.To.Col, s.To.Row)) return false;
+    else if (step.Kind == "attacker") MakeAttackerMove(g, s);
+    else MakeDefenderMove(g, s);
     return true;
 }
 

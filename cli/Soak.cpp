@@ -36,9 +36,9 @@ struct SoakMove {
     bool RestartAfter = false;   // the next line of the log is the layout's opening
 };
 
-SoakMove Made(MoveKind kind, const ListMove& m) {
-    return {kind, static_cast<std::int8_t>(m.FromCol), static_cast<std::int8_t>(m.FromRow),
-            static_cast<std::int8_t>(m.ToCol), static_cast<std::int8_t>(m.ToRow), false};
+SoakMove Made(MoveKind kind, const Move& m) {
+    return {kind, static_cast<std::int8_t>(m.From.Col), static_cast<std::int8_t>(m.From.Row),
+            static_cast<std::int8_t>(m.To.Col), static_cast<std::int8_t>(m.To.Row), false};
 }
 
 // The quiet command-line view, keeping the last move it was asked to mark:
@@ -46,18 +46,15 @@ SoakMove Made(MoveKind kind, const ListMove& m) {
 class SoakView : public CliView {
 public:
     SoakView() { Quiet = true; }
-    void DrawMoveMark(int fromCol, int fromRow, int toCol, int toRow) override {
-        Marked = {fromCol, fromRow, toCol, toRow};
-    }
-    ListMove Marked;
+    void DrawMoveMark(const Move& m) override { Marked = m; }
+    Move Marked;
 };
 
 // The random mover's move: List1's first line, source at characters 6-9 and
 // destination at 11-14.
-ListMove RandomMove(const Game& g) {
+Move RandomMove(const Game& g) {
     const std::string_view line(g.List1.front());
-    return {ValInt(line.substr(5, 2)), ValInt(line.substr(7, 2)), ValInt(line.substr(10, 2)),
-            ValInt(line.substr(12, 2))};
+    return {{ValInt(line.substr(5, 2)), ValInt(line.substr(7, 2))}, {ValInt(line.substr(10, 2)), ValInt(line.substr(12, 2))}};
 }
 
 // One turn of a side: its computer player's move or, when that player finds
@@ -118,9 +115,9 @@ bool GameOver(const Game& g, int side, SoakReport& r) {
 // The position after a recorded move, made again on the position before it.
 std::string Successor(Game& g, const SoakMove& m) {
     switch (m.Kind) {
-        case MoveKind::ComputerDefender: MakeDefenderMove(g, m.FromCol, m.FromRow, m.ToCol, m.ToRow); break;
-        case MoveKind::ComputerAttacker: MakeAttackerMove(g, m.FromCol, m.FromRow, m.ToCol, m.ToRow); break;
-        case MoveKind::Random: MovePiece(g, m.FromCol, m.FromRow, m.ToCol, m.ToRow); break;
+        case MoveKind::ComputerDefender: MakeDefenderMove(g, {{m.FromCol, m.FromRow}, {m.ToCol, m.ToRow}}); break;
+        case MoveKind::ComputerAttacker: MakeAttackerMove(g, {{m.FromCol, m.FromRow}, {m.ToCol, m.ToRow}}); break;
+        case MoveKind::Random: MovePiece(g, {{m.FromCol, m.FromRow}, {m.ToCol, m.ToRow}}); break;
     }
     g.Undo.clear();
     g.EventLog.clear();

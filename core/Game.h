@@ -7,25 +7,23 @@
 
 #include "core/Chance.h"
 #include "core/Grid.h"
+#include "core/Square.h"
 
 namespace jv {
 
 class GameView;
 
-// The square codes. The rules compare against these names, never against
-// the literal values.
-constexpr int AttackerCode = 1;
-constexpr int DefenderCode = 0;
-constexpr int EmptyCode = -1;
-constexpr int HomeCode = -99;
+// The square codes, as the board, the layout files and the logs keep them.
+// The rules compare against these names, never against the literal values.
+enum SquareCode : std::int32_t {
+    AttackerCode = 1,
+    DefenderCode = 0,
+    EmptyCode = -1,
+    HomeCode = -99,
+};
 
 // The largest board the per-square tables take.
 constexpr int MaxBoardSide = 14;
-
-struct Square {
-    int Col = -1;   // -1: no square
-    int Row = -1;
-};
 
 // A clock reading for the moves-log file name.
 struct ClockReading {

@@ -2,6 +2,8 @@
 #include <cstdint>
 #include <string>
 
+#include "core/Square.h"
+
 namespace jv {
 
 // The lists of the main window that the engine fills and asks to be shown.
@@ -24,12 +26,12 @@ public:
     virtual void DrawBoard() = 0;
     virtual void DrawSquare(int col, int row, std::int32_t colour) = 0;
     virtual void DrawPiece(int col, int row, int drawCode) = 0;
-    virtual void DrawMoveMark(int fromCol, int fromRow, int toCol, int toRow) = 0;
+    virtual void DrawMoveMark(const Move& m) = 0;
     virtual void MarkVictim(int col, int row) = 0;
 
     // The drag line from the centre of one square to another, and the marker
     // at its start.
-    virtual void ShowDragLine(int fromCol, int fromRow, int toCol, int toRow) = 0;
+    virtual void ShowDragLine(const Move& m) = 0;
     virtual void HideDragLine() = 0;
 
     // The event log: one line with its two colour arguments, or cleared.

@@ -72,9 +72,9 @@ bool KingSurrounded(const Game& g) {
 
 bool GameGoesOn(const Game& g, int gameNumber) { return !g.Ending && g.GameNumber == gameNumber; }
 
-void ShowDragLine(Game& g, int fromCol, int fromRow, int toCol, int toRow) {
+void ShowDragLine(Game& g, const Move& m) {
     g.DragLineVisible = true;
-    g.View->ShowDragLine(fromCol, fromRow, toCol, toRow);
+    g.View->ShowDragLine(m);
 }
 
 void HideDragLine(Game& g) {
@@ -82,22 +82,22 @@ void HideDragLine(Game& g) {
     g.View->HideDragLine();
 }
 
-void MovePiece(Game& g, int fromCol, int fromRow, int toCol, int toRow) {
-    const bool kingMoves = IsKingOn(g, fromCol, fromRow);
-    g.Board(toCol, toRow) = g.Board(fromCol, fromRow);
-    g.Board(fromCol, fromRow) = EmptyCode;
+void MovePiece(Game& g, const Move& m) {
+    const bool kingMoves = IsKingOn(g, m.From.Col, m.From.Row);
+    g.Board(m.To.Col, m.To.Row) = g.Board(m.From.Col, m.From.Row);
+    g.Board(m.From.Col, m.From.Row) = EmptyCode;
     if (kingMoves) {
-        g.KingCol = toCol;
-        g.KingRow = toRow;
+        g.KingCol = m.To.Col;
+        g.KingRow = m.To.Row;
     }
-    const std::string moveText = SquareName(g, fromCol, fromRow) + " > " + SquareName(g, toCol, toRow);
+    const std::string moveText = SquareName(g, m.From.Col, m.From.Row) + " > " + SquareName(g, m.To.Col, m.To.Row);
 
-    g.View->DrawSquare(fromCol, fromRow, BoardBackColourValue(g));
-    RepaintDestination(g, toCol, toRow);
+    g.View->DrawSquare(m.From.Col, m.From.Row, BoardBackColourValue(g));
+    RepaintDestination(g, m.To.Col, m.To.Row);
 
     // The colour argument tells the sides apart: 1 defenders, 2 attackers,
     // 0 the King.
-    int n = g.Board(toCol, toRow) + 1;
+    int n = g.Board(m.To.Col, m.To.Row) + 1;
     std::string subject = "Player" + std::to_string(n) + " ";
     if (kingMoves) {
         subject = "King ";
@@ -106,8 +106,8 @@ void MovePiece(Game& g, int fromCol, int fromRow, int toCol, int toRow) {
     PrintLog(g, "  " + subject + "Move " + moveText, n, 0);
 }
 
-void AnimateMove(Game& g, int fromCol, int fromRow, int toCol, int toRow) {
-    ShowDragLine(g, fromCol, fromRow, toCol, toRow);
+void AnimateMove(Game& g, const Move& m) {
+    ShowDragLine(g, m);
     g.View->Pause(1000);
     HideDragLine(g);
 }

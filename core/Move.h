@@ -5,10 +5,10 @@ namespace jv {
 
 // Carries a piece over (the King's square follows), repaints the two squares
 // and logs the move. Checks nothing.
-void MovePiece(Game& g, int fromCol, int fromRow, int toCol, int toRow);
+void MovePiece(Game& g, const Move& m);
 
 // Shows the drag line from source to target for a second.
-void AnimateMove(Game& g, int fromCol, int fromRow, int toCol, int toRow);
+void AnimateMove(Game& g, const Move& m);
 
 // Takes every enemy piece sandwiched by the piece that has just moved to
 // (col, row), one second apart.
@@ -26,7 +26,7 @@ bool GameGoesOn(const Game& g, int gameNumber);
 
 // The drag line and its marker: one line serves the user's drag and the
 // computer's move animation.
-void ShowDragLine(Game& g, int fromCol, int fromRow, int toCol, int toRow);
+void ShowDragLine(Game& g, const Move& m);
 void HideDragLine(Game& g);
 
 }  // namespace jv

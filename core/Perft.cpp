@@ -76,8 +76,8 @@ public:
         return count;
     }
 
-    PerftMove Describe(FlatMove move) const {
-        return PerftMove{col_[move.From], row_[move.From], col_[move.To], row_[move.To]};
+    Move Describe(FlatMove move) const {
+        return Move{col_[move.From], row_[move.From], col_[move.To], row_[move.To]};
     }
 
 private:

@@ -20,12 +20,8 @@ namespace jv {
 // alternating; a line that ends early adds nothing. The moves are made and
 // taken back on the game's own board, which is left as it was.
 
-struct PerftMove {
-    int FromCol = 0, FromRow = 0, ToCol = 0, ToRow = 0;
-};
-
 struct PerftLine {
-    PerftMove Move;
+    Move First;
     std::uint64_t Count = 0;
 };
 

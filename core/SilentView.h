@@ -14,9 +14,9 @@ public:
     void DrawBoard() override {}
     void DrawSquare(int, int, std::int32_t) override {}
     void DrawPiece(int, int, int) override {}
-    void DrawMoveMark(int, int, int, int) override {}
+    void DrawMoveMark(const Move&) override {}
     void MarkVictim(int, int) override {}
-    void ShowDragLine(int, int, int, int) override {}
+    void ShowDragLine(const Move&) override {}
     void HideDragLine() override {}
     void PrintLine(const std::string&, int, int) override {}
     void ClearLog() override {}

@@ -50,12 +50,12 @@ bool IsStandardMoveText(std::string_view text) {
     return SplitMove(text, from, to);
 }
 
-bool ReadStandardMove(const Game& g, std::string_view text, StandardMove& move) {
+bool ReadStandardMove(const Game& g, std::string_view text, Move& move) {
     std::string_view from, to;
     if (!SplitMove(text, from, to)) return false;
-    StandardMove read;
-    if (!ReadStandardSquare(g, from, read.FromCol, read.FromRow)) return false;
-    if (!ReadStandardSquare(g, to, read.ToCol, read.ToRow)) return false;
+    Move read;
+    if (!ReadStandardSquare(g, from, read.From.Col, read.From.Row)) return false;
+    if (!ReadStandardSquare(g, to, read.To.Col, read.To.Row)) return false;
     move = read;
     return true;
 }

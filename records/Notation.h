@@ -23,16 +23,11 @@ std::string StandardSquareName(int boardWidth, int col, int row);
 // left as they were.
 bool ReadStandardSquare(const Game& g, std::string_view text, int& col, int& row);
 
-// A standard move is two squares joined by "-": "d1-d4".
-struct StandardMove {
-    int FromCol = 0, FromRow = 0, ToCol = 0, ToRow = 0;
-};
-
 // True when the text has the form of a standard move, whatever the board.
 bool IsStandardMoveText(std::string_view text);
 
 // Reads "d1-d4"; false when the text is no move between two squares of the
 // board.
-bool ReadStandardMove(const Game& g, std::string_view text, StandardMove& move);
+bool ReadStandardMove(const Game& g, std::string_view text, Move& move);
 
 }  // namespace jv

@@ -96,7 +96,7 @@ void MakeRedAutoMove(Game& g) {
     ListTiedBest(g);
     const int n = static_cast<int>(g.List3.size());
     const std::string& taken = g.List3[n == 1 ? 0 : DrawOneOf(g, n) - 1];
-    MakeAttackerMove(g, TwoDigits(taken, 6), TwoDigits(taken, 8), TwoDigits(taken, 1), TwoDigits(taken, 3));
+    MakeAttackerMove(g, {{TwoDigits(taken, 6), TwoDigits(taken, 8)}, {TwoDigits(taken, 1), TwoDigits(taken, 3)}});
     SetBoardEnabled(g, true);
     g.View->SetBusy(false);
 }
@@ -105,14 +105,14 @@ void MakeGreenAutoMove(Game& g) {
     g.View->SetBusy(true);
     SetBoardEnabled(g, false);
     GetDefenderRank(g, 1);
-    ListMove move;
+    Move move;
     if (g.List1D.empty() || !ReadListMove(g.List1D[0], move)) {
         g.View->Show("No move for the Defender\r\nClick Reset to start another Game", "Vbcritical+vbok");
         SetBoardEnabled(g, true);
         g.View->SetBusy(false);
         return;
     }
-    MakeDefenderMove(g, move.FromCol, move.FromRow, move.ToCol, move.ToRow);
+    MakeDefenderMove(g, move);
     SetBoardEnabled(g, true);
     g.View->SetBusy(false);
 }
@@ -150,7 +150,7 @@ void RedGreenRandom(Game& g) {
     }
 }
 
-bool ReadListMove(const std::string& line, ListMove& move) {
+bool ReadListMove(const std::string& line, Move& move) {
     if (line.size() < 21) return false;
     move = {TwoDigits(line, 13), TwoDigits(line, 15), TwoDigits(line, 18), TwoDigits(line, 20)};
     return true;
@@ -158,10 +158,10 @@ bool ReadListMove(const std::string& line, ListMove& move) {
 
 void PreviewListMove(Game& g, const std::vector<std::string>& list, int index) {
     if (index < 0 || index >= static_cast<int>(list.size())) return;
-    ListMove move;
+    Move move;
     if (!ReadListMove(list[index], move)) return;
-    if (!OnBoard(g, move.FromCol, move.FromRow) || !OnBoard(g, move.ToCol, move.ToRow)) return;
-    ShowDragLine(g, move.FromCol, move.FromRow, move.ToCol, move.ToRow);
+    if (!OnBoard(g, move.From.Col, move.From.Row) || !OnBoard(g, move.To.Col, move.To.Row)) return;
+    ShowDragLine(g, move);
 }
 
 void EndListMovePreview(Game& g) { HideDragLine(g); }

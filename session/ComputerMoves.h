@@ -23,11 +23,8 @@ void RedGreenRandom(Game& g);
 
 // The move written in a List1A or List1D line: source at characters 13-16,
 // destination at 18-21.
-struct ListMove {
-    int FromCol = 0, FromRow = 0, ToCol = 0, ToRow = 0;
-};
 // False when the line is too short to hold a move.
-bool ReadListMove(const std::string& line, ListMove& move);
+bool ReadListMove(const std::string& line, Move& move);
 
 // The mouse pressed on line index of a candidate list: the move is shown on
 // the board with the drag line and its marker. Nothing for an index or line

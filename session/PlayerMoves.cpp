@@ -26,28 +26,28 @@ void EndGame(Game& g, const std::string& headline, const char* style) {
     g.View->EnableBoard(false);
 }
 
-void MoveAndMark(Game& g, int fromCol, int fromRow, int toCol, int toRow) {
-    MovePiece(g, fromCol, fromRow, toCol, toRow);
-    g.View->DrawMoveMark(fromCol, fromRow, toCol, toRow);
+void MoveAndMark(Game& g, const Move& m) {
+    MovePiece(g, m);
+    g.View->DrawMoveMark(m);
 }
 
 // Shows a computer move for a second, then tells whether it is still to be
 // made: in the same game, with its two squares holding what they held. A
 // move whose piece an undo or another move has taken away meanwhile would
 // otherwise carry an empty square over, or a piece that is not its own.
-bool ShowComputerMove(Game& g, int fromCol, int fromRow, int toCol, int toRow) {
+bool ShowComputerMove(Game& g, const Move& m) {
     const int gameNumber = g.GameNumber;
-    const int from = g.Board(fromCol, fromRow), to = g.Board(toCol, toRow);
-    AnimateMove(g, fromCol, fromRow, toCol, toRow);
-    return GameGoesOn(g, gameNumber) && g.Board(fromCol, fromRow) == from && g.Board(toCol, toRow) == to;
+    const int from = g.Board(m.From.Col, m.From.Row), to = g.Board(m.To.Col, m.To.Row);
+    AnimateMove(g, m);
+    return GameGoesOn(g, gameNumber) && g.Board(m.From.Col, m.From.Row) == from && g.Board(m.To.Col, m.To.Row) == to;
 }
 
 }  // namespace
 
-void MakeAttackerMove(Game& g, int fromCol, int fromRow, int toCol, int toRow) {
+void MakeAttackerMove(Game& g, const Move& m) {
     RecordMove(g);
-    if (!ShowComputerMove(g, fromCol, fromRow, toCol, toRow)) return;
-    MoveAndMark(g, fromCol, fromRow, toCol, toRow);
+    if (!ShowComputerMove(g, m)) return;
+    MoveAndMark(g, m);
     if (CheckKingCapture(g) == 99) {
         // The King's capture is the whole move: no sandwich is taken and the
         // position is not analysed.
@@ -55,14 +55,14 @@ void MakeAttackerMove(Game& g, int fromCol, int fromRow, int toCol, int toRow) {
         EndGame(g, "King Captured !", "vbcritical+vbok");
         return;
     }
-    CaptureAround(g, toCol, toRow);
+    CaptureAround(g, m.To.Col, m.To.Row);
     AnalysePosition(g);
 }
 
-void MakeDefenderMove(Game& g, int fromCol, int fromRow, int toCol, int toRow) {
+void MakeDefenderMove(Game& g, const Move& m) {
     RecordMove(g);
-    if (!ShowComputerMove(g, fromCol, fromRow, toCol, toRow)) return;
-    MoveAndMark(g, fromCol, fromRow, toCol, toRow);
+    if (!ShowComputerMove(g, m)) return;
+    MoveAndMark(g, m);
 
     // The test for the King beside a Home corner reads its row from a value
     // that is never given the King's row: it only ever holds the result of a
@@ -81,7 +81,7 @@ void MakeDefenderMove(Game& g, int fromCol, int fromRow, int toCol, int toRow) {
         EndGame(g, "King Home !", "vbcritical+vbok");
         return;
     }
-    CaptureAround(g, toCol, toRow);
+    CaptureAround(g, m.To.Col, m.To.Row);
     AnalysePosition(g);
 }
 
@@ -113,7 +113,7 @@ void DropPiece(Game& g, int col, int row) {
     }
 
     RecordMove(g);
-    MoveAndMark(g, source.Col, source.Row, col, row);
+    MoveAndMark(g, {{source.Col, source.Row}, {col, row}});
     if (KingAtHome(g) == 99) {
         HideDragLine(g);
         EndGame(g, "King at Home !", "vbhappy+vbok");

@@ -7,8 +7,8 @@ namespace jv {
 // for a second first, and the user's drop, which the computer then answers.
 // Each is recorded for undo and ends the game when the King is taken or home.
 
-void MakeAttackerMove(Game& g, int fromCol, int fromRow, int toCol, int toRow);
-void MakeDefenderMove(Game& g, int fromCol, int fromRow, int toCol, int toRow);
+void MakeAttackerMove(Game& g, const Move& m);
+void MakeDefenderMove(Game& g, const Move& m);
 void DropPiece(Game& g, int col, int row);
 
 }  // namespace jv

@@ -63,7 +63,7 @@ bool CanStartDrag(const Game& g, int col, int row) {
 bool BeginDrag(Game& g, int col, int row) {
     if (!CanStartDrag(g, col, row)) return false;
     g.DragSource = Square{col, row};
-    ShowDragLine(g, col, row, col, row);
+    ShowDragLine(g, {{col, row}, {col, row}});
     return true;
 }
 

@@ -37,16 +37,16 @@ void MainWindow::DrawPiece(int col, int row, int drawCode) {
     if (!game_.EditorOn) picture_->DrawPiece(col, row, drawCode);
 }
 
-void MainWindow::DrawMoveMark(int fromCol, int fromRow, int toCol, int toRow) {
-    if (!game_.EditorOn) picture_->DrawMoveMark(fromCol, fromRow, toCol, toRow);
+void MainWindow::DrawMoveMark(const Move& m) {
+    if (!game_.EditorOn) picture_->DrawMoveMark(m.From.Col, m.From.Row, m.To.Col, m.To.Row);
 }
 
 void MainWindow::MarkVictim(int col, int row) {
     if (!game_.EditorOn) picture_->MarkVictim(col, row);
 }
 
-void MainWindow::ShowDragLine(int fromCol, int fromRow, int toCol, int toRow) {
-    if (!game_.EditorOn) picture_->ShowDragLine(fromCol, fromRow, toCol, toRow);
+void MainWindow::ShowDragLine(const Move& m) {
+    if (!game_.EditorOn) picture_->ShowDragLine(m.From.Col, m.From.Row, m.To.Col, m.To.Row);
 }
 
 void MainWindow::HideDragLine() { picture_->HideDragLine(); }

@@ -213,12 +213,12 @@ TEST(ListMovePreview, APressedLineShowsItsMove) {
     TestGame t;
     Game& g = t.g;
     NewBoard(g, 11, 11);
-    ListMove m;
+    Move m;
     ASSERT_TRUE(ReadListMove("99349 00150 0206>0202", m));
-    EXPECT_EQ(m.FromCol, 2);
-    EXPECT_EQ(m.FromRow, 6);
-    EXPECT_EQ(m.ToCol, 2);
-    EXPECT_EQ(m.ToRow, 2);
+    EXPECT_EQ(m.From.Col, 2);
+    EXPECT_EQ(m.From.Row, 6);
+    EXPECT_EQ(m.To.Col, 2);
+    EXPECT_EQ(m.To.Row, 2);
     EXPECT_FALSE(ReadListMove("0202 0206 99349", m));
 
     t.view.Clear();

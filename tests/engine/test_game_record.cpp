@@ -77,11 +77,11 @@ TEST(GameRecord, MovesAreNumberedDefendersFirstWithTheirCaptures) {
     LoggedGame game(Start);
     Game& g = game.t.g;
     const std::string first = LayoutLine(g);
-    MakeDefenderMove(g, 2, 1, 2, 4);   // a6-d6, taking d5 against the King
-    MakeAttackerMove(g, 6, 7, 6, 4);   // g2-d2
-    MakeDefenderMove(g, 4, 4, 4, 1);   // the King d4-a4
-    MakeAttackerMove(g, 6, 4, 6, 1);   // d2-a2
-    MakeAttackerMove(g, 6, 1, 5, 1);   // a2-a3, a second attackers' move in a row
+    MakeDefenderMove(g, {{2, 1}, {2, 4}});   // a6-d6, taking d5 against the King
+    MakeAttackerMove(g, {{6, 7}, {6, 4}});   // g2-d2
+    MakeDefenderMove(g, {{4, 4}, {4, 1}});   // the King d4-a4
+    MakeAttackerMove(g, {{6, 4}, {6, 1}});   // d2-a2
+    MakeAttackerMove(g, {{6, 1}, {5, 1}});   // a2-a3, a second attackers' move in a row
     RecordMove(g);                     // the recording switched off: the position as it stands
     const Lines log = game.Log();
     ASSERT_EQ(log.size(), 7u);
@@ -106,9 +106,9 @@ TEST(GameRecord, SeveralCapturesTheKingsEscapeAndTheKingTaken) {
         ".....K.",
         "...a...",
     });
-    MakeAttackerMove(escape.t.g, 7, 4, 4, 4);   // d1-d4 sandwiches c4, e4 and d5
+    MakeAttackerMove(escape.t.g, {{7, 4}, {4, 4}});   // d1-d4 sandwiches c4, e4 and d5
     escape.UserMove(6, 6, 6, 7);                // f2-g2
-    MakeAttackerMove(escape.t.g, 4, 4, 5, 4);   // d4-d3
+    MakeAttackerMove(escape.t.g, {{4, 4}, {5, 4}});   // d4-d3
     escape.UserMove(6, 7, 7, 7);                // g2-g1: the King at Home, a move neither logged nor undone
     const Lines log = escape.Log();
     ASSERT_EQ(log.size(), 4u);   // the position after d4-d3 is in no line: the last two moves are one step
@@ -142,7 +142,7 @@ TEST(GameRecord, SeveralCapturesTheKingsEscapeAndTheKingTaken) {
         "d......",
         ".......",
     });
-    MakeAttackerMove(taken.t.g, 5, 4, 5, 1);   // d3-a3: three attackers round the King on the edge
+    MakeAttackerMove(taken.t.g, {{5, 4}, {5, 1}});   // d3-a3: three attackers round the King on the edge
     EXPECT_EQ(taken.t.g.Board(6, 1), DefenderCode);   // sandwiched against the corner, but not taken
     const GameRecordResult captured = MakeGameRecord(taken.Log());
     ASSERT_TRUE(captured.Ok) << captured.Reason;
@@ -218,8 +218,8 @@ TEST(GameRecordExport, TheUndoHistoryIsWrittenAsAGameRecord) {
     ExportGameRecordCommand(g);
     EXPECT_EQ(t.view.Messages(), Lines{"No move has been made in this game yet [vbinformation+vbok]"});
 
-    MakeDefenderMove(g, 2, 1, 2, 4);
-    MakeAttackerMove(g, 6, 7, 6, 4);
+    MakeDefenderMove(g, {{2, 1}, {2, 4}});
+    MakeAttackerMove(g, {{6, 7}, {6, 4}});
     EXPECT_EQ(HistoryLines(g).size(), 3u);
     EXPECT_EQ(HistoryLines(g).front(), start);
     t.view.FileChoices = {"game"};
@@ -230,7 +230,7 @@ TEST(GameRecordExport, TheUndoHistoryIsWrittenAsAGameRecord) {
     const std::string written = "[layout \"" + start + "\"]\r\n[size \"7x7\"]\r\n\r\n1. a6-d6xd5 g2-d2\r\n";
     EXPECT_EQ(t.ReadFile("game.txt"), written);
 
-    MakeDefenderMove(g, 4, 4, 4, 1);
+    MakeDefenderMove(g, {{4, 4}, {4, 1}});
     t.view.FileChoices = {"game.txt"};
     t.view.Answers = {7};
     t.view.Clear();
@@ -240,7 +240,7 @@ TEST(GameRecordExport, TheUndoHistoryIsWrittenAsAGameRecord) {
 
     // The first position picked in the Undo list and played on from: the history jumps back.
     Undo_MouseUp(g, 2);
-    MakeDefenderMove(g, 2, 1, 2, 4);
+    MakeDefenderMove(g, {{2, 1}, {2, 4}});
     t.view.FileChoices = {"other.txt"};
     t.view.Clear();
     ExportGameRecordCommand(g);

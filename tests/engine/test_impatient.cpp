@@ -116,7 +116,7 @@ TEST(ImpatientUser, AResetDuringTheComputersMoveLeavesTheNewGameAsLoaded) {
         Game& g = s.g;
         const std::string loaded = LoadCaptures(s);
         s.view.At[at] = [&] { ResetCommand(g); };
-        MakeAttackerMove(g, 9, 6, 9, 3);
+        MakeAttackerMove(g, {{9, 6}, {9, 3}});
         EXPECT_EQ(EncodePosition(g), loaded) << "reset at event " << at;
         EXPECT_TRUE(g.Undo.empty());
         EXPECT_EQ(g.EventLog, Lines{"Loaded Layout: captures.txt"});
@@ -128,7 +128,7 @@ TEST(ImpatientUser, AResetDuringTheComputersMoveLeavesTheNewGameAsLoaded) {
     Game& g = s.g;
     const std::string loaded = LoadCaptures(s);
     s.view.At[1] = [&] { ResetCommand(g); };
-    MakeDefenderMove(g, 4, 9, 4, 5);
+    MakeDefenderMove(g, {{4, 9}, {4, 5}});
     EXPECT_EQ(EncodePosition(g), loaded);
     EXPECT_EQ(g.EventLog, Lines{"Loaded Layout: captures.txt"});
 }
@@ -143,7 +143,7 @@ TEST(ImpatientUser, ASmallerBoardLoadedDuringAMoveKeepsItsFrameAndItsKing) {
         LoadCaptures(s);
         s.view.FileChoices = {"pattern1.txt"};
         s.view.At[2] = [&] { LoadCommand(g); };   // the capture's pause
-        MakeAttackerMove(g, 9, 6, 9, 3);
+        MakeAttackerMove(g, {{9, 6}, {9, 3}});
         EXPECT_EQ(g.BoardWidth, 7);
         EXPECT_EQ(g.Board(8, 3), HomeCode);
         EXPECT_EQ(LayoutLine(g), Pattern1Line());
@@ -155,7 +155,7 @@ TEST(ImpatientUser, ASmallerBoardLoadedDuringAMoveKeepsItsFrameAndItsKing) {
     s.Load("king.txt", 11, 11, {".", ".", ".", "...K"});
     s.view.FileChoices = {"pattern1.txt"};   // its King stands on D4 too
     s.view.At[1] = [&] { LoadCommand(g); };  // the move's animation
-    MakeDefenderMove(g, 4, 4, 4, 10);
+    MakeDefenderMove(g, {{4, 4}, {4, 10}});
     EXPECT_EQ(g.KingCol, 4);
     EXPECT_EQ(g.KingRow, 4);
     EXPECT_EQ(LayoutLine(g), Pattern1Line());
@@ -187,7 +187,7 @@ TEST(ImpatientUser, ANewGameBegunWhileTheEndOfTheLastIsAnnouncedStaysOpen) {
     // The attacker from F9 to F7 completes the ring round the King on F6.
     const std::string loaded = s.Load("ring.txt", 11, 11, {".", ".", ".", ".", ".....a", "....aK..a", ".....a"});
     s.view.At[2] = [&] { ResetCommand(g); };   // 1: the animation, 2: after "King Captured !"
-    MakeAttackerMove(g, 6, 9, 6, 7);
+    MakeAttackerMove(g, {{6, 9}, {6, 7}});
     EXPECT_EQ(s.view.Messages().front(), "King Captured !\r\nClick Reset to start a new game [vbcritical+vbok]");
     EXPECT_EQ(EncodePosition(g), loaded);
     EXPECT_FALSE(g.GameOver);
@@ -226,7 +226,7 @@ TEST(ImpatientUser, AnUndoDuringACaptureTakesOnlyPiecesStillSandwiched) {
     PlacePieces(earlier, 11, 11, {".", "....d", "....a", "........d", ".", ".", "..a", "..K", ".....a"});
     g.Undo = {EncodePosition(earlier)};
     s.view.At[2] = [&] { Undo_MouseUp(g, 1); };   // 1: the animation, 2: the capture of H3
-    MakeAttackerMove(g, 9, 6, 9, 3);
+    MakeAttackerMove(g, {{9, 6}, {9, 3}});
     EXPECT_EQ(g.KingCol, 8);
     EXPECT_EQ(g.KingRow, 3);
     EXPECT_EQ(g.Board(8, 3), DefenderCode);
@@ -239,8 +239,8 @@ TEST(ImpatientUser, AComputerMoveWhosePieceWasMovedMeanwhileIsNotMade) {
     Impatient s;
     Game& g = s.g;
     LoadCaptures(s);
-    s.view.At[1] = [&] { MakeAttackerMove(g, 9, 6, 9, 8); };
-    MakeAttackerMove(g, 9, 6, 9, 3);
+    s.view.At[1] = [&] { MakeAttackerMove(g, {{9, 6}, {9, 8}}); };
+    MakeAttackerMove(g, {{9, 6}, {9, 3}});
     EXPECT_EQ(g.Board(9, 8), AttackerCode);
     EXPECT_EQ(g.Board(9, 3), EmptyCode);
     EXPECT_EQ(g.Board(8, 3), DefenderCode);
@@ -297,7 +297,7 @@ TEST(ImpatientUser, TheEditorSwitchedOnDuringAMoveKeepsItsPosition) {
     Game& g = s.g;
     const std::string before = LoadCaptures(s);
     s.view.At[1] = [&] { EditorCommand(g); };
-    MakeAttackerMove(g, 9, 6, 9, 3);
+    MakeAttackerMove(g, {{9, 6}, {9, 3}});
     EXPECT_TRUE(g.EditorOn);
     EXPECT_EQ(g.Board(9, 3), AttackerCode);
     EXPECT_EQ(Unsound(g), "");

@@ -61,7 +61,7 @@ TEST(MakeAttackerMove, TakingTheKingEndsTheGameAndTakesNothingElse) {
     Game& g = t.g;
     PlacePieces(g, 11, 11, {".", ".a", "ad", "K", "a", ".a"});
     t.view.Clear();
-    MakeAttackerMove(g, 6, 2, 4, 2);
+    MakeAttackerMove(g, {{6, 2}, {4, 2}});
     EXPECT_EQ(t.view.Calls,
               (Calls{"RefreshList Undo", "ShowDragLine 6 2 4 2", "Pause 1000", "HideDragLine", "DrawSquare 6 2 0",
                      "DrawSquare 4 2 0", "DrawPiece 4 2 1", "PrintLine |  Player2 Move F2 > D2| 2 0",

@@ -30,7 +30,7 @@ TEST(MovePiece, CarriesThePieceOverRepaintsBothSquaresAndLogsTheMoveInTheSideCol
 
     g.ColourMode = 1;
     t.view.Clear();
-    MovePiece(g, 1, 4, 4, 4);
+    MovePiece(g, {{1, 4}, {4, 4}});
     EXPECT_EQ(t.view.Calls, (Calls{"DrawSquare 1 4 111", "DrawSquare 4 4 600", "PrintLine |  Player1 Move A4 > D4| 1 0"}));
     EXPECT_EQ(g.Board(1, 4), EmptyCode);
     EXPECT_EQ(g.Board(4, 4), DefenderCode);
@@ -38,7 +38,7 @@ TEST(MovePiece, CarriesThePieceOverRepaintsBothSquaresAndLogsTheMoveInTheSideCol
 
     g.ColourMode = 0;   // pictures: the background, then the piece's picture
     t.view.Clear();
-    MovePiece(g, 11, 5, 9, 5);
+    MovePiece(g, {{11, 5}, {9, 5}});
     EXPECT_EQ(t.view.Calls, (Calls{"DrawSquare 11 5 111", "DrawSquare 9 5 111", "DrawPiece 9 5 1",
                                    "PrintLine |  Player2 Move K5 > I5| 2 0"}));
     EXPECT_EQ(g.Board(9, 5), AttackerCode);
@@ -54,7 +54,7 @@ TEST(MovePiece, TheKingsSquareFollowsHimBeforeAnythingIsDrawn) {
     MarkColours(g);
 
     t.view.Clear();
-    MovePiece(g, 6, 6, 6, 9);
+    MovePiece(g, {{6, 6}, {6, 9}});
     EXPECT_EQ(t.view.Calls, (Calls{"DrawSquare 6 6 111", "DrawSquare 6 9 111", "DrawPiece 6 9 3",
                                    "PrintLine |  King Move F6 > F9| 0 0"}));
     EXPECT_EQ(g.KingCol, 6);
@@ -62,7 +62,7 @@ TEST(MovePiece, TheKingsSquareFollowsHimBeforeAnythingIsDrawn) {
 
     g.ColourMode = 1;
     t.view.Clear();
-    MovePiece(g, 6, 9, 3, 9);
+    MovePiece(g, {{6, 9}, {3, 9}});
     EXPECT_EQ(t.view.Calls, (Calls{"DrawSquare 6 9 111", "DrawSquare 3 9 603", "PrintLine |  King Move F9 > C9| 0 0"}));
     EXPECT_EQ(g.KingCol, 3);
     EXPECT_EQ(g.KingRow, 9);
@@ -76,7 +76,7 @@ TEST(AnimateMove, ShowsTheDragLineForOneSecond) {
     bool visibleDuringPause = false;
     t.view.OnEvents = [&] { visibleDuringPause = g.DragLineVisible; };
     t.view.Clear();
-    AnimateMove(g, 2, 2, 2, 5);
+    AnimateMove(g, {{2, 2}, {2, 5}});
     EXPECT_EQ(t.view.Calls, (Calls{"ShowDragLine 2 2 2 5", "Pause 1000", "HideDragLine"}));
     EXPECT_TRUE(visibleDuringPause);
     EXPECT_FALSE(g.DragLineVisible);
@@ -91,7 +91,7 @@ TEST(MakeAttackerMove, RecordsAnimatesMovesCapturesAndAnalysesInThatOrder) {
     const std::string before = EncodePosition(g);
     t.view.Clear();
 
-    MakeAttackerMove(g, 8, 3, 5, 3);
+    MakeAttackerMove(g, {{8, 3}, {5, 3}});
     EXPECT_EQ(t.view.Calls, (Calls{"RefreshList Undo", "ShowDragLine 8 3 5 3", "Pause 1000", "HideDragLine",
                                    "DrawSquare 8 3 111", "DrawSquare 5 3 111", "DrawPiece 5 3 1",
                                    "PrintLine |  Player2 Move H3 > E3| 2 0", "DrawMoveMark 8 3 5 3",
@@ -117,7 +117,7 @@ TEST(MakeDefenderMove, NeverEndsTheGameEvenWhenTheKingStandsBesideHome) {
     MarkColours(g);
     t.view.Clear();
 
-    MakeDefenderMove(g, 1, 4, 1, 2);
+    MakeDefenderMove(g, {{1, 4}, {1, 2}});
     EXPECT_EQ(t.view.Calls, (Calls{"RefreshList Undo", "ShowDragLine 1 4 1 2", "Pause 1000", "HideDragLine",
                                    "DrawSquare 1 4 111", "DrawSquare 1 2 111", "DrawPiece 1 2 3",
                                    "PrintLine |  King Move A4 > A2| 0 0", "DrawMoveMark 1 4 1 2",
@@ -129,7 +129,7 @@ TEST(MakeDefenderMove, NeverEndsTheGameEvenWhenTheKingStandsBesideHome) {
     EXPECT_EQ(g.Undo.size(), 1u);
 
     // Not even a King carried onto a corner by the computer ends the game.
-    MakeDefenderMove(g, 1, 2, 1, 1);
+    MakeDefenderMove(g, {{1, 2}, {1, 1}});
     EXPECT_TRUE(t.view.Messages().empty());
     EXPECT_TRUE(g.BoardEnabled);
 }

@@ -91,17 +91,17 @@ TEST(Notation, AStandardMoveIsTwoSquaresJoinedByADash) {
     for (const char* text : {"d1d4", "d1-", "-d4", "0304>0302", "d1-d4x", "d1--d4", "D1-D4"})
         EXPECT_FALSE(IsStandardMoveText(text)) << text;
 
-    StandardMove move;
+    Move move;
     ASSERT_TRUE(ReadStandardMove(g, "a9-a1", move));
-    EXPECT_EQ(move.FromCol, 1);
-    EXPECT_EQ(move.FromRow, 1);
-    EXPECT_EQ(move.ToCol, 9);
-    EXPECT_EQ(move.ToRow, 1);
+    EXPECT_EQ(move.From.Col, 1);
+    EXPECT_EQ(move.From.Row, 1);
+    EXPECT_EQ(move.To.Col, 9);
+    EXPECT_EQ(move.To.Row, 1);
     ASSERT_TRUE(ReadStandardMove(g, "e7-g7", move));
-    EXPECT_EQ(move.FromCol, 3);
-    EXPECT_EQ(move.FromRow, 5);
-    EXPECT_EQ(move.ToCol, 3);
-    EXPECT_EQ(move.ToRow, 7);
+    EXPECT_EQ(move.From.Col, 3);
+    EXPECT_EQ(move.From.Row, 5);
+    EXPECT_EQ(move.To.Col, 3);
+    EXPECT_EQ(move.To.Row, 7);
     EXPECT_FALSE(ReadStandardMove(g, "h1-a1", move));   // no file h on a board 7 squares across
     EXPECT_FALSE(ReadStandardMove(g, "a1-a10", move));
 }

@@ -26,8 +26,8 @@ bool IsCentre(const Game& g, int col, int row) { return col == g.CentreCol && ro
 // The moves of a side: for a defender, every square of its row and column
 // that the pointer accepts as a drop, but the centre for anyone but the King;
 // for an attacker, its targets but the centre.
-std::vector<PerftMove> SlowMoves(Game& g, int side) {
-    std::vector<PerftMove> moves;
+std::vector<Move> SlowMoves(Game& g, int side) {
+    std::vector<Move> moves;
     for (int col = 1; col <= g.BoardWidth; ++col)
         for (int row = 1; row <= g.BoardHeight; ++row) {
             if (g.Board(col, row) != side) continue;
@@ -49,14 +49,14 @@ std::vector<PerftMove> SlowMoves(Game& g, int side) {
     return moves;
 }
 
-Game SlowMove(const Game& g, const PerftMove& m, int side) {
+Game SlowMove(const Game& g, const Move& m, int side) {
     Game next = g;
     next.Check1 = false;   // the computer does not answer: the counter plays both sides
     if (side == DefenderCode) {
-        EXPECT_TRUE(BeginDrag(next, m.FromCol, m.FromRow));
-        EXPECT_TRUE(EndDrag(next, m.ToCol, m.ToRow));
+        EXPECT_TRUE(BeginDrag(next, m.From.Col, m.From.Row));
+        EXPECT_TRUE(EndDrag(next, m.To.Col, m.To.Row));
     } else {
-        MakeAttackerMove(next, m.FromCol, m.FromRow, m.ToCol, m.ToRow);
+        MakeAttackerMove(next, m);
     }
     EXPECT_NE(EncodePosition(next), EncodePosition(g));
     return next;
@@ -65,10 +65,10 @@ Game SlowMove(const Game& g, const PerftMove& m, int side) {
 std::uint64_t SlowCount(Game& g, int depth, int side) {
     if (depth == 0) return 1;
     if (GameFinished(g) || KingAtHome(g) == 99) return 0;
-    const std::vector<PerftMove> moves = SlowMoves(g, side);
+    const std::vector<Move> moves = SlowMoves(g, side);
     if (depth == 1) return moves.size();
     std::uint64_t total = 0;
-    for (const PerftMove& m : moves) {
+    for (const Move& m : moves) {
         Game next = SlowMove(g, m, side);
         total += SlowCount(next, depth - 1, 1 - side);
     }
@@ -136,16 +136,16 @@ TEST(Perft, TheKingAtHomeOrTakenEndsTheLine) {
     EXPECT_EQ(Perft(g, 1, DefenderCode), 8u);
     EXPECT_EQ(Perft(g, 2, DefenderCode), 28u);
     for (const PerftLine& line : PerftDivide(g, 2, DefenderCode)) {
-        const bool home = IsCorner(g, line.Move.ToCol, line.Move.ToRow);
-        const bool centre = line.Move.ToCol == 3 && line.Move.ToRow == 3;
-        EXPECT_EQ(line.Count, home ? 0u : centre ? 3u : 5u) << line.Move.ToCol << "," << line.Move.ToRow;
+        const bool home = IsCorner(g, line.First.To.Col, line.First.To.Row);
+        const bool centre = line.First.To.Col == 3 && line.First.To.Row == 3;
+        EXPECT_EQ(line.Count, home ? 0u : centre ? 3u : 5u) << line.First.To.Col << "," << line.First.To.Row;
     }
 
     // The King on D1 between attackers on C1 and E1: the attacker from F2 to D2 takes him.
     PlacePieces(g, 7, 7, {".", ".", "a", "K", "a", ".a"});
     bool found = false;
     for (const PerftLine& line : PerftDivide(g, 2, AttackerCode)) {
-        const bool takesKing = line.Move.FromCol == 6 && line.Move.ToCol == 4 && line.Move.ToRow == 2;
+        const bool takesKing = line.First.From.Col == 6 && line.First.To.Col == 4 && line.First.To.Row == 2;
         found = found || takesKing;
         if (takesKing) EXPECT_EQ(line.Count, 0u);
         else EXPECT_GT(line.Count, 0u);

@@ -38,12 +38,12 @@ void RecordingView::DrawSquare(int col, int row, std::int32_t colour) {
 void RecordingView::DrawPiece(int col, int row, int drawCode) {
     Calls.push_back("DrawPiece" + Join({col, row, drawCode}));
 }
-void RecordingView::DrawMoveMark(int fromCol, int fromRow, int toCol, int toRow) {
-    Calls.push_back("DrawMoveMark" + Join({fromCol, fromRow, toCol, toRow}));
+void RecordingView::DrawMoveMark(const Move& m) {
+    Calls.push_back("DrawMoveMark" + Join({m.From.Col, m.From.Row, m.To.Col, m.To.Row}));
 }
 void RecordingView::MarkVictim(int col, int row) { Calls.push_back("MarkVictim" + Join({col, row})); }
-void RecordingView::ShowDragLine(int fromCol, int fromRow, int toCol, int toRow) {
-    Calls.push_back("ShowDragLine" + Join({fromCol, fromRow, toCol, toRow}));
+void RecordingView::ShowDragLine(const Move& m) {
+    Calls.push_back("ShowDragLine" + Join({m.From.Col, m.From.Row, m.To.Col, m.To.Row}));
 }
 void RecordingView::HideDragLine() { Calls.push_back("HideDragLine"); }
 void RecordingView::PrintLine(const std::string& text, int colour, int background) {

@@ -42,9 +42,9 @@ public:
     void DrawBoard() override;
     void DrawSquare(int col, int row, std::int32_t colour) override;
     void DrawPiece(int col, int row, int drawCode) override;
-    void DrawMoveMark(int fromCol, int fromRow, int toCol, int toRow) override;
+    void DrawMoveMark(const Move& m) override;
     void MarkVictim(int col, int row) override;
-    void ShowDragLine(int fromCol, int fromRow, int toCol, int toRow) override;
+    void ShowDragLine(const Move& m) override;
     void HideDragLine() override;
     void PrintLine(const std::string& text, int colour, int background) override;
     void ClearLog() override;
