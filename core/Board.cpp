@@ -61,8 +61,8 @@ bool IsCorner(const Game& g, int col, int row) {
     return (col == 1 || col == g.BoardWidth) && (row == 1 || row == g.BoardHeight);
 }
 
-int KingAtHome(const Game& g) {
-    return IsCorner(g, g.KingCol, g.KingRow) ? 99 : 0;
+bool KingAtHome(const Game& g) {
+    return IsCorner(g, g.KingCol, g.KingRow);
 }
 
 void BuildColumnLetters(Game& g) {

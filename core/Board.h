@@ -15,8 +15,8 @@ void NewBoard(Game& g, int width, int height);
 // Writes code into the four Home corners and nowhere else.
 void SetHomeSquares(Game& g, int code);
 
-// 99 when the King stands on one of the four corners, else 0.
-int KingAtHome(const Game& g);
+// True when the King stands on one of the four corners.
+bool KingAtHome(const Game& g);
 
 // True when the King stands on (col, row).
 bool IsKingOn(const Game& g, int col, int row);

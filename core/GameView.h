@@ -12,6 +12,17 @@ enum class ListId {
     AttackerMovesRank, DefenderMovesRank, Undo
 };
 
+// The buttons of the message box, numbered as Show returns them.
+enum MessageButton : int {
+    ButtonOk = 1,
+    ButtonCancel = 2,
+    ButtonAbort = 3,
+    ButtonRetry = 4,
+    ButtonIgnore = 5,
+    ButtonYes = 6,
+    ButtonNo = 7,
+};
+
 // How a file is chosen.
 enum class FileMode { Open, Save };
 

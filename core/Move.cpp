@@ -135,14 +135,14 @@ void CaptureAround(Game& g, int col, int row) {
     }
 }
 
-int CheckKingCapture(Game& g) {
+bool CheckKingCapture(Game& g) {
     // A King that is not on the board (the editor can leave him off it)
     // cannot be surrounded; his neighbours would also lie outside the grid.
-    if (g.KingCol < 1 || g.KingCol > g.BoardWidth || g.KingRow < 1 || g.KingRow > g.BoardHeight) return 0;
+    if (g.KingCol < 1 || g.KingCol > g.BoardWidth || g.KingRow < 1 || g.KingRow > g.BoardHeight) return false;
     SetHomeSquares(g, AttackerCode);
     const bool captured = KingSurrounded(g);
     SetHomeSquares(g, HomeCode);
-    return captured ? 99 : 0;
+    return captured;
 }
 
 }  // namespace jv

@@ -14,9 +14,9 @@ void AnimateMove(Game& g, const Move& m);
 // (col, row), one second apart.
 void CaptureAround(Game& g, int col, int row);
 
-// 99 when the King is taken: by four attackers, or by three against the
+// True when the King is taken: by four attackers, or by three against the
 // edge, a Home corner beside him counting as an attacker.
-int CheckKingCapture(Game& g);
+bool CheckKingCapture(Game& g);
 
 // A move's pauses let pending events run, so the user's clicks arrive in the
 // middle of it. What is left of the move belongs to the game it began in:

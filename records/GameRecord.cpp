@@ -205,7 +205,7 @@ std::string MakeMoveAgain(Game& g, TakingsView& view, const FoundMove& m) {
         g.KingCol = m.To.Col;
         g.KingRow = m.To.Row;
     }
-    if (m.Kind == 'a' && CheckKingCapture(g) == 99) return "#";
+    if (m.Kind == 'a' && CheckKingCapture(g)) return "#";
     if (m.Kind == 'K' && IsCorner(g, m.To.Col, m.To.Row)) return "--";
     CaptureAround(g, m.To.Col, m.To.Row);
     g.EventLog.clear();

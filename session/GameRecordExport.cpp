@@ -14,7 +14,6 @@ namespace jv {
 
 namespace {
 
-constexpr int Yes = 6;
 
 // Where a refused history went wrong, as the Undo list names its entries.
 std::string BadMove(const GameRecordResult& record) {
@@ -53,7 +52,7 @@ void ExportGameRecordCommand(Game& g) {
     if (name.empty()) return;
     name = WithExtension(name, "txt");
     const std::string path = InProgramFolder(g, name);
-    if (FileThere(path) && g.View->Show(name + "\r\nOverWrite file?", "vbYesNo+vbquestion") != Yes) return;
+    if (FileThere(path) && g.View->Show(name + "\r\nOverWrite file?", "vbYesNo+vbquestion") != ButtonYes) return;
     if (!WriteFileAtomically(path, JoinLines(record.Lines))) {
         g.View->Show("Game Record File:\r\n" + name + "\r\ncould not be written", "vbcritical+vbok");
         return;

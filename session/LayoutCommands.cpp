@@ -18,7 +18,6 @@ namespace jv {
 
 namespace {
 
-constexpr int Yes = 6;
 
 // The opening shipped with the program, the last resort of a failed load.
 const std::string ShippedOpening = "patf.txt";
@@ -174,7 +173,7 @@ void SaveCommand(Game& g) {
     if (name.empty()) return;
     name = WithExtension(name, "txt");
     const std::string path = InProgramFolder(g, name);
-    if (FileHasLength(path) && g.View->Show(name + "\r\nOverWrite file?", "vbYesNo+vbquestion") != Yes) return;
+    if (FileHasLength(path) && g.View->Show(name + "\r\nOverWrite file?", "vbYesNo+vbquestion") != ButtonYes) return;
     // The old file is replaced only once the new one is whole on disk, so a
     // failed write leaves it as it was.
     if (!(IsOtnFileName(name) ? WriteOtnFile(g, path) : WriteLayoutFile(g, path))) {
@@ -186,7 +185,7 @@ void SaveCommand(Game& g) {
 
 void ResetCommand(Game& g) {
     if (g.EditorOn) return;
-    if (g.View->Show("Reset layout?", "vbquestion+vbyesno") == Yes) LoadLayout(g, g.LayoutFile);
+    if (g.View->Show("Reset layout?", "vbquestion+vbyesno") == ButtonYes) LoadLayout(g, g.LayoutFile);
 }
 
 }  // namespace jv

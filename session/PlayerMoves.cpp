@@ -48,7 +48,7 @@ void MakeAttackerMove(Game& g, const Move& m) {
     RecordMove(g);
     if (!ShowComputerMove(g, m)) return;
     MoveAndMark(g, m);
-    if (CheckKingCapture(g) == 99) {
+    if (CheckKingCapture(g)) {
         // The King's capture is the whole move: no sandwich is taken and the
         // position is not analysed.
         HideDragLine(g);
@@ -114,7 +114,7 @@ void DropPiece(Game& g, int col, int row) {
 
     RecordMove(g);
     MoveAndMark(g, {{source.Col, source.Row}, {col, row}});
-    if (KingAtHome(g) == 99) {
+    if (KingAtHome(g)) {
         HideDragLine(g);
         EndGame(g, "King at Home !", "vbhappy+vbok");
         return;

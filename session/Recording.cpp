@@ -16,8 +16,6 @@ namespace jv {
 
 namespace {
 
-constexpr int Yes = 6;
-constexpr int Cancel = 2;
 
 ClockReading SystemClock() {
     const std::time_t now = std::time(nullptr);
@@ -34,8 +32,8 @@ bool StepThroughLog(Game& g, const std::vector<std::string>& lines) {
         const std::string& line = lines[static_cast<std::size_t>(k - 1)];
         ApplyPositionRecord(g, line.size() > 4 ? line.substr(4) : std::string());
         const int answer = g.View->Show("Step" + Str(k) + " of" + Str(n) + "\r\nStop ?", "vbquestion+vbYesNoCancel");
-        if (answer == Yes) return true;
-        if (answer == Cancel) break;
+        if (answer == ButtonYes) return true;
+        if (answer == ButtonCancel) break;
     }
     return false;
 }

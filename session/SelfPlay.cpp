@@ -26,7 +26,7 @@ AutoGameResult PlayAutoGame(Game& g, int maxMoves) {
         return result;
     };
     for (;;) {
-        if (KingAtHome(g) == 99) return ended(GameEnd::KingAtHome);
+        if (KingAtHome(g)) return ended(GameEnd::KingAtHome);
         if (KingHasFreeRun(g)) return ended(GameEnd::KingFreeRun);
         if (result.Moves >= maxMoves) return ended(GameEnd::MoveLimit);
         MakeGreenAutoMove(g);
@@ -37,7 +37,7 @@ AutoGameResult PlayAutoGame(Game& g, int maxMoves) {
         MakeRedAutoMove(g);
         if (g.List1A.empty()) return ended(GameEnd::AttackersWithoutMove);
         ++result.Moves;
-        if (CheckKingCapture(g) == 99) return ended(GameEnd::KingCaptured);
+        if (CheckKingCapture(g)) return ended(GameEnd::KingCaptured);
     }
 }
 

@@ -62,7 +62,7 @@ void AutoGame(Game& g) {
 }
 
 bool ExitCommand(Game& g) {
-    if (g.View->Show("Exit?", "vbQuestion + vbYesNo") != 6) return false;
+    if (g.View->Show("Exit?", "vbQuestion + vbYesNo") != ButtonYes) return false;
     // A configuration that cannot be written is reported and the program
     // still ends.
     WriteConfiguration(g, ConfigurationFile);
