@@ -1,3 +1,4 @@
+// The random numbers: a generator reseeded from the timer, as the computer players draw.
 #include <gtest/gtest.h>
 
 #include <set>

@@ -1,13 +1,10 @@
+// The colour schemes of "all.col": the list of their names and the reading of one scheme.
 #include <gtest/gtest.h>
-
-#include <random>
 
 #include "records/ColourScheme.h"
 #include "support/Fixtures.h"
-#include "support/RandomText.h"
 
 using namespace jv;
-using jv::test::RandomText;
 using jv::test::TestGame;
 
 namespace {
@@ -95,24 +92,4 @@ TEST(ColourScheme, TheShippedFileHasXpFirstAndEverySchemeLoads) {
     EXPECT_EQ(names.front(), "xp");
     for (const std::string& name : names) EXPECT_TRUE(LoadColourScheme(t.g, name + ".col")) << name;
     EXPECT_TRUE(t.view.Calls.empty());
-}
-
-TEST(ColourScheme, RandomBytesNeverCrash) {
-    // Whatever bytes all.col holds, listing and loading end normally; a scheme not found leaves the colours.
-    TestGame t;
-    Game& g = t.g;
-    std::mt19937 random(777);
-    const std::string alphabet = "0123456789;;;\r\n\n-.xp.col ";
-    for (int round = 0; round < 300; ++round) {
-        std::string bytes = RandomText(random, round, 500, alphabet);
-        if (round % 3 == 0) bytes = "xp.col\r\n" + bytes;
-        t.WriteFile("all.col", bytes);
-        FillSchemeList(g);
-        g.ColourTable.fill(0x123456);
-        if (!LoadColourScheme(g, "xp.col")) {
-            for (std::int32_t colour : g.ColourTable) ASSERT_EQ(colour, 0x123456);
-        } else {
-            for (std::int32_t colour : g.ColourTable) ASSERT_EQ(colour & ~0xFFFFFF, 0);
-        }
-    }
 }

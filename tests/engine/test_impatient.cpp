@@ -1,8 +1,8 @@
-// An impatient user: commands that arrive while a move waits in one of its
-// pauses (the computer's move shown for a second, each capture's second, the
-// message at the end of a game) or while the automatic game runs.
+// Commands that arrive while a move waits in one of its pauses, or while the automatic game runs, leave a
+// sound game.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 #include <map>
 
@@ -25,7 +25,6 @@
 #include "support/Soundness.h"
 
 using namespace jv;
-using jv::test::PlacePieces;
 using jv::test::RecordingView;
 using jv::test::TestGame;
 using jv::test::BadLayoutLines;
@@ -67,30 +66,30 @@ struct Impatient {
         t.CopyData("pattern1.txt");
         t.CopyData("pattern4.txt");
     }
-    // Writes the pieces as a layout file of the program's folder and loads
-    // it as the game; returns the loaded position's record.
-    std::string Load(const std::string& name, int width, int height, std::initializer_list<const char*> cols) {
-        PlacePieces(g, width, height, cols);
-        WriteLayoutFile(g, t.Path(name));
+    // Writes the layout line as a file of the program's folder and loads it
+    // as the game; returns the loaded position's record.
+    std::string Load(const std::string& name, const std::string& line) {
+        t.WriteFile(name, line + "\r\n");
         LoadLayout(g, name);
         view.Clear();
         view.Events = 0;
         view.At.clear();
         return EncodePosition(g);
     }
-    bool Logged(const std::string& start) const {
-        for (const std::string& line : g.EventLog)
-            if (line.rfind(start, 0) == 0) return true;
-        return false;
+    // How many lines of the log start with start.
+    long Logged(const std::string& start) const {
+        return std::count_if(g.EventLog.begin(), g.EventLog.end(), [&](const std::string& l) { return l.rfind(start, 0) == 0; });
     }
+    // What is unsound or stale in the game ("" when nothing is).
+    std::string Unsoundness() const { return Unsound(g) + StaleAnalysis(g); }
 };
 
 // 11 by 11, the King on F6. The user's defender from D9 to D5 takes the
 // attacker on C5 against the defender on B5; the computer's attacker from I6
 // to I3 takes the defender on H3 against the attacker on G3.
 std::string LoadCaptures(Impatient& s) {
-    return s.Load("captures.txt", 11, 11,
-                  {".", "....d", "....a", "........d", ".", ".....K", "..a", "..d", ".....a", ".", "."});
+    return s.Load("captures.txt", "11110606" "HEEEEEEEEEH" "EEEE0EEEEEE" "EEEE1EEEEEE" "EEEEEEEE0EE" "EEEEEEEEEEE"
+                  "EEEEE0EEEEE" "EE1EEEEEEEE" "EE0EEEEEEEE" "EEEEE1EEEEE" "EEEEEEEEEEE" "HEEEEEEEEEH");
 }
 
 // The layout line of pattern1.txt, the shipped 7 by 7 board.
@@ -107,223 +106,152 @@ bool UserMove(Game& g, int fromCol, int fromRow, int toCol, int toRow) {
 
 }  // namespace
 
-TEST(ImpatientUser, AResetDuringTheComputersMoveLeavesTheNewGameAsLoaded) {
-    // A reset while the computer's move is shown, or while its capture waits, starts the new game from its
-    // layout: nothing of the interrupted move, neither the move itself nor its capture, is made in it.
-    for (int at : {1, 2}) {
+TEST(ImpatientUser, AResetDuringAMoveLeavesTheNewGameAsLoaded) {
+    // A reset while a move is shown or its capture waits starts the new game from its layout: nothing of the
+    // interrupted move, its capture or the computer's answer to it is made in the new game.
+    const struct { const char* move; int at; std::function<void(Game&)> make; } rows[] = {
+        {"the computer's attacker, shown", 1, [](Game& g) { MakeAttackerMove(g, 9, 6, 9, 3); }},
+        {"the computer's attacker, capturing", 2, [](Game& g) { MakeAttackerMove(g, 9, 6, 9, 3); }},
+        {"the computer's defender", 1, [](Game& g) { MakeDefenderMove(g, 4, 9, 4, 5); }},
+        {"the user's, capturing", 1, [](Game& g) { g.Check1 = true, UserMove(g, 4, 9, 4, 5); }},
+    };
+    for (const auto& r : rows) {
         Impatient s;
-        Game& g = s.g;
         const std::string loaded = LoadCaptures(s);
-        s.view.At[at] = [&] { ResetCommand(g); };
-        MakeAttackerMove(g, 9, 6, 9, 3);
-        EXPECT_EQ(EncodePosition(g), loaded) << "reset at event " << at;
-        EXPECT_TRUE(g.Undo.empty());
-        EXPECT_EQ(g.EventLog, Lines{"Loaded Layout: captures.txt"});
-        EXPECT_EQ(Unsound(g), "");
-        EXPECT_EQ(StaleAnalysis(g), "");
+        s.view.At[r.at] = [&] { ResetCommand(s.g); };
+        r.make(s.g);
+        EXPECT_EQ(EncodePosition(s.g), loaded) << r.move;
+        EXPECT_TRUE(s.g.Undo.empty()) << r.move;
+        EXPECT_EQ(s.g.EventLog, Lines{"Loaded Layout: captures.txt"}) << r.move;
+        EXPECT_EQ(s.Unsoundness(), "") << r.move;
     }
-    // The computer defender's move alike.
-    Impatient s;
-    Game& g = s.g;
-    const std::string loaded = LoadCaptures(s);
-    s.view.At[1] = [&] { ResetCommand(g); };
-    MakeDefenderMove(g, 4, 9, 4, 5);
-    EXPECT_EQ(EncodePosition(g), loaded);
-    EXPECT_EQ(g.EventLog, Lines{"Loaded Layout: captures.txt"});
 }
 
 TEST(ImpatientUser, ASmallerBoardLoadedDuringAMoveKeepsItsFrameAndItsKing) {
     // A 7 by 7 layout loaded while an 11 by 11 move waits: the piece due to be taken beyond the new board's
-    // edge leaves the new frame whole, and a King's move due from the square where the new King stands does
-    // not carry him off the board.
-    {
-        Impatient s;
-        Game& g = s.g;
-        LoadCaptures(s);
-        s.view.FileChoices = {"pattern1.txt"};
-        s.view.At[2] = [&] { LoadCommand(g); };   // the capture's pause
-        MakeAttackerMove(g, 9, 6, 9, 3);
-        EXPECT_EQ(g.BoardWidth, 7);
-        EXPECT_EQ(g.Board(8, 3), HomeCode);
-        EXPECT_EQ(LayoutLine(g), Pattern1Line());
-        EXPECT_FALSE(s.Logged("  Player 2 captures"));
-        EXPECT_EQ(Unsound(g), "");
-    }
+    // edge leaves the new frame whole, and the King's move due from the square where the new King stands
+    // does not carry him off the board.
     Impatient s;
-    Game& g = s.g;
-    s.Load("king.txt", 11, 11, {".", ".", ".", "...K"});
-    s.view.FileChoices = {"pattern1.txt"};   // its King stands on D4 too
-    s.view.At[1] = [&] { LoadCommand(g); };  // the move's animation
-    MakeDefenderMove(g, 4, 4, 4, 10);
-    EXPECT_EQ(g.KingCol, 4);
-    EXPECT_EQ(g.KingRow, 4);
-    EXPECT_EQ(LayoutLine(g), Pattern1Line());
-    EXPECT_EQ(Unsound(g), "");
-    EXPECT_EQ(StaleAnalysis(g), "");
-}
+    LoadCaptures(s);
+    s.view.FileChoices = {"pattern1.txt", "pattern1.txt"};
+    s.view.At[2] = [&] { LoadCommand(s.g); };   // the capture's pause
+    MakeAttackerMove(s.g, 9, 6, 9, 3);
+    EXPECT_EQ(LayoutLine(s.g), Pattern1Line());
+    EXPECT_EQ(s.Logged("  Player 2 captures"), 0);
+    EXPECT_EQ(s.Unsoundness(), "");
 
-TEST(ImpatientUser, AResetDuringTheUsersCaptureGetsNoAnswerFromTheComputer) {
-    // The user's move waits a second for its capture; a reset then starts a game in which nobody has moved,
-    // so the computer does not answer the interrupted move in it.
-    Impatient s;
-    Game& g = s.g;
-    const std::string loaded = LoadCaptures(s);
-    g.Check1 = true;
-    s.view.At[1] = [&] { ResetCommand(g); };
-    ASSERT_TRUE(UserMove(g, 4, 9, 4, 5));
-    EXPECT_EQ(EncodePosition(g), loaded);
-    EXPECT_TRUE(g.Undo.empty());
-    EXPECT_FALSE(s.Logged("  Player2 Move"));
-    EXPECT_TRUE(g.BoardEnabled);
-    EXPECT_EQ(Unsound(g), "");
+    s.Load("king.txt", "11110404" "HEEEEEEEEEH" + std::string(22, 'E') + "EEE0EEEEEEE" + std::string(66, 'E') + "HEEEEEEEEEH");
+    s.view.At[1] = [&] { LoadCommand(s.g); };   // the move's animation; pattern1's King stands on D4 too
+    MakeDefenderMove(s.g, 4, 4, 4, 10);
+    EXPECT_EQ(LayoutLine(s.g), Pattern1Line());
+    EXPECT_EQ(s.Unsoundness(), "");
 }
 
 TEST(ImpatientUser, ANewGameBegunWhileTheEndOfTheLastIsAnnouncedStaysOpen) {
     // The end of a game closes that game's board; a reset clicked while the end's message lets events run
     // begins a game whose board takes the pointer.
-    Impatient s;
-    Game& g = s.g;
-    // The attacker from F9 to F7 completes the ring round the King on F6.
-    const std::string loaded = s.Load("ring.txt", 11, 11, {".", ".", ".", ".", ".....a", "....aK..a", ".....a"});
-    s.view.At[2] = [&] { ResetCommand(g); };   // 1: the animation, 2: after "King Captured !"
-    MakeAttackerMove(g, 6, 9, 6, 7);
-    EXPECT_EQ(s.view.Messages().front(), "King Captured !\r\nClick Reset to start a new game [vbcritical+vbok]");
-    EXPECT_EQ(EncodePosition(g), loaded);
-    EXPECT_FALSE(g.GameOver);
-    EXPECT_TRUE(g.BoardEnabled);
-    EXPECT_TRUE(s.view.BoardEnabled);
-
-    // The King's winning drop on a Home corner alike.
-    const std::string home = s.Load("home.txt", 11, 11, {"....K"});
-    s.view.At[1] = [&] { ResetCommand(g); };
-    ASSERT_TRUE(UserMove(g, 1, 5, 1, 1));
-    EXPECT_EQ(s.view.Messages().front(), "King at Home !\r\nClick Reset to start a new game [vbhappy+vbok]");
-    EXPECT_EQ(EncodePosition(g), home);
-    EXPECT_FALSE(g.GameOver);
-    EXPECT_TRUE(g.BoardEnabled);
+    const struct { const char* end; std::string layout; int at; std::function<void(Game&)> make; } rows[] = {
+        {"King Captured !", "11110606" "HEEEEEEEEEH" + std::string(33, 'E') + "EEEEE1EEEEE" "EEEE10EE1EE" "EEEEE1EEEEE" +
+                                std::string(33, 'E') + "HEEEEEEEEEH", 2, [](Game& g) { MakeAttackerMove(g, 6, 9, 6, 7); }},
+        {"King at Home !", "11110105" "HEEE0EEEEEH" + std::string(99, 'E') + "HEEEEEEEEEH", 1,
+         [](Game& g) { UserMove(g, 1, 5, 1, 1); }},
+    };
+    for (const auto& r : rows) {
+        Impatient s;
+        const std::string loaded = s.Load("end.txt", r.layout);
+        s.view.At[r.at] = [&] { ResetCommand(s.g); };
+        r.make(s.g);
+        ASSERT_FALSE(s.view.Messages().empty()) << r.end;
+        EXPECT_EQ(s.view.Messages().front().rfind(r.end, 0), 0u) << r.end;
+        EXPECT_EQ(EncodePosition(s.g), loaded) << r.end;
+        EXPECT_FALSE(s.g.GameOver) << r.end;
+        EXPECT_TRUE(s.view.BoardEnabled) << r.end;
+    }
 }
 
 TEST(ImpatientUser, AnUndoDuringACaptureTakesOnlyPiecesStillSandwiched) {
-    // Taking the move back while its capture waits leaves the position before the move: the attacker about
-    // to be taken stays, as nothing sandwiches it any more.
+    // Taking the move back while its capture waits leaves the position before the move; an earlier Undo entry
+    // in which the King stands where a defender is about to be taken is shown whole: the King is never taken.
     Impatient s;
-    Game& g = s.g;
     const std::string before = LoadCaptures(s);
-    g.Check1 = false;
-    s.view.At[1] = [&] { UndoCommand(g); };
-    ASSERT_TRUE(UserMove(g, 4, 9, 4, 5));
-    EXPECT_EQ(EncodePosition(g), before);
-    EXPECT_TRUE(g.Undo.empty());
-    EXPECT_FALSE(s.Logged("  Player 1 captures"));
-    EXPECT_EQ(StaleAnalysis(g), "");
+    s.g.Check1 = false;
+    s.view.At[1] = [&] { UndoCommand(s.g); };
+    ASSERT_TRUE(UserMove(s.g, 4, 9, 4, 5));
+    EXPECT_EQ(EncodePosition(s.g), before);
+    EXPECT_EQ(s.Logged("  Player 1 captures"), 0);
+    EXPECT_EQ(s.Unsoundness(), "");
 
-    // Clicking an earlier entry of the Undo list, one in which the King stood where a defender is about to
-    // be taken, shows that position whole: the King is never taken by two.
     LoadCaptures(s);
     Game earlier;
     earlier.View = &s.view;
-    PlacePieces(earlier, 11, 11, {".", "....d", "....a", "........d", ".", ".", "..a", "..K", ".....a"});
-    g.Undo = {EncodePosition(earlier)};
-    s.view.At[2] = [&] { Undo_MouseUp(g, 1); };   // 1: the animation, 2: the capture of H3
-    MakeAttackerMove(g, 9, 6, 9, 3);
-    EXPECT_EQ(g.KingCol, 8);
-    EXPECT_EQ(g.KingRow, 3);
-    EXPECT_EQ(g.Board(8, 3), DefenderCode);
-    EXPECT_EQ(Unsound(g), "");
+    ASSERT_FALSE(ApplyLayoutLine(earlier, "11110803" "HEEEEEEEEEH" "EEEE0EEEEEE" "EEEE1EEEEEE" "EEEEEEEE0EE" "EEEEEEEEEEE"
+                                          "EEEEEEEEEEE" "EE1EEEEEEEE" "EE0EEEEEEEE" "EEEEE1EEEEE" "EEEEEEEEEEE" "HEEEEEEEEEH"));
+    s.g.Undo = {EncodePosition(earlier)};
+    s.view.At[2] = [&] { Undo_MouseUp(s.g, 1); };   // 1: the animation, 2: the capture of H3
+    MakeAttackerMove(s.g, 9, 6, 9, 3);
+    EXPECT_EQ(s.g.Board(8, 3), DefenderCode);
+    EXPECT_EQ(s.g.KingCol * 100 + s.g.KingRow, 803);
 }
 
-TEST(ImpatientUser, AComputerMoveWhosePieceWasMovedMeanwhileIsNotMade) {
-    // A second computer move asked for while the first is shown moves first; the first, whose piece has
-    // left its square, is then not made: no empty square is carried over and no piece vanishes.
+TEST(ImpatientUser, AMoveWhosePieceWasMovedMeanwhileIsNotMadeAndASecondDropIsAMoveOfItsOwn) {
+    // A second computer move asked for while the first is shown moves first and the first is not made; a
+    // second drop while the user's capture waits is recorded and answered like the first.
     Impatient s;
-    Game& g = s.g;
     LoadCaptures(s);
-    s.view.At[1] = [&] { MakeAttackerMove(g, 9, 6, 9, 8); };
-    MakeAttackerMove(g, 9, 6, 9, 3);
-    EXPECT_EQ(g.Board(9, 8), AttackerCode);
-    EXPECT_EQ(g.Board(9, 3), EmptyCode);
-    EXPECT_EQ(g.Board(8, 3), DefenderCode);
-    EXPECT_FALSE(s.Logged("  Player0"));
-    EXPECT_EQ(g.AttackerCount, 3);
-    EXPECT_EQ(Unsound(g), "");
-    EXPECT_EQ(StaleAnalysis(g), "");
-}
+    s.view.At[1] = [&] { MakeAttackerMove(s.g, 9, 6, 9, 8); };
+    MakeAttackerMove(s.g, 9, 6, 9, 3);
+    EXPECT_EQ(s.g.Board(9, 8), AttackerCode);
+    EXPECT_EQ(s.g.Board(9, 3), EmptyCode);
+    EXPECT_EQ(s.g.AttackerCount, 3);
+    EXPECT_EQ(s.Unsoundness(), "");
 
-TEST(ImpatientUser, ASecondDropDuringTheUsersCaptureIsAMoveOfItsOwn) {
-    // The board takes the pointer while the user's capture waits: a second drop then is a move of its own,
-    // recorded and answered by the computer like the first, and the first capture is still made.
-    Impatient s;
-    Game& g = s.g;
     LoadCaptures(s);
-    g.Check1 = true;
-    s.view.At[1] = [&] { EXPECT_TRUE(UserMove(g, 8, 3, 8, 1)); };
-    ASSERT_TRUE(UserMove(g, 4, 9, 4, 5));
-    EXPECT_EQ(g.Undo.size(), 4u);   // two user moves and two answers
-    int answers = 0;
-    for (const std::string& line : g.EventLog) answers += line.rfind("  Player2 Move", 0) == 0;
-    EXPECT_EQ(answers, 2);
-    EXPECT_TRUE(s.Logged("  Player 1 captures C5"));
-    EXPECT_EQ(Unsound(g), "");
-    EXPECT_EQ(StaleAnalysis(g), "");
+    s.g.Check1 = true;
+    s.view.At[1] = [&] { EXPECT_TRUE(UserMove(s.g, 8, 3, 8, 1)); };
+    ASSERT_TRUE(UserMove(s.g, 4, 9, 4, 5));
+    EXPECT_EQ(s.g.Undo.size(), 4u);   // two user moves and two answers
+    EXPECT_EQ(s.Logged("  Player2 Move"), 2);
+    EXPECT_EQ(s.Logged("  Player 1 captures C5"), 1);
+    EXPECT_EQ(s.Unsoundness(), "");
 }
 
 TEST(ImpatientUser, WhileTheComputerMovesTheBoardRefusesADragAndTheButtonsWork) {
-    // During the computer's move the board takes no drag; the buttons act at once: the attackers' ranking
-    // is listed again and the computer's move is still made.
+    // During the computer's move the board takes no drag; the ranking asked for again is listed, the editor
+    // switched on edits the position of that moment, and the computer's move is still made.
     Impatient s;
-    Game& g = s.g;
-    LoadCaptures(s);
+    const std::string before = LoadCaptures(s);
     bool dragged = true;
     s.view.At[1] = [&] {
-        dragged = BeginDrag(g, 4, 9);
-        g.List1A.clear();
-        GetAttackerRank(g);
+        dragged = BeginDrag(s.g, 4, 9);
+        GetAttackerRank(s.g);
+        EditorCommand(s.g);
     };
-    MakeRedAutoMove(g);
+    MakeRedAutoMove(s.g);
     EXPECT_FALSE(dragged);
-    EXPECT_FALSE(g.List1A.empty());
-    EXPECT_TRUE(s.Logged("  Player2 Move"));
-    EXPECT_EQ(g.Undo.size(), 1u);
-    EXPECT_TRUE(g.BoardEnabled);
-    EXPECT_EQ(Unsound(g), "");
-    EXPECT_EQ(StaleAnalysis(g), "");
-}
-
-TEST(ImpatientUser, TheEditorSwitchedOnDuringAMoveKeepsItsPosition) {
-    // The editor switched on while the computer's move is shown edits the position of that moment; the
-    // move is made on the board underneath, and switching the editor off replaces it with the edited one.
-    Impatient s;
-    Game& g = s.g;
-    const std::string before = LoadCaptures(s);
-    s.view.At[1] = [&] { EditorCommand(g); };
-    MakeAttackerMove(g, 9, 6, 9, 3);
-    EXPECT_TRUE(g.EditorOn);
-    EXPECT_EQ(g.Board(9, 3), AttackerCode);
-    EXPECT_EQ(Unsound(g), "");
-    EditorCommand(g);
-    EXPECT_FALSE(g.EditorOn);
-    EXPECT_EQ(EncodePosition(g), before);
-    EXPECT_EQ(g.LayoutFile, s.t.Path("temporarylayout.txt"));
+    EXPECT_FALSE(s.g.List1A.empty());
+    EXPECT_EQ(s.Logged("  Player2 Move"), 1);
+    EXPECT_TRUE(s.g.EditorOn);
+    EXPECT_EQ(Unsound(s.g), "");
+    EditorCommand(s.g);
+    EXPECT_EQ(EncodePosition(s.g), before);
+    EXPECT_EQ(s.g.LayoutFile, s.t.Path("temporarylayout.txt"));
 }
 
 TEST(ImpatientUser, ExitDuringAMoveEndsItAndLeavesEveryFileWhole) {
-    // "Exit?" answered Yes while a capture waits ends the program there: the configuration is written
-    // whole, and neither the rest of the move nor the computer's answer adds to the moves log.
+    // "Exit?" answered Yes while a capture waits ends the program there: the configuration is written whole,
+    // and neither the rest of the move nor the computer's answer adds to the moves log.
     Impatient s;
-    Game& g = s.g;
     LoadCaptures(s);
-    g.Check1 = true;
-    g.Clock = [] { return ClockReading{3, 14, 9, 5}; };
-    RecordingSwitch(g, true);
-    g.BoardStyle = 2;
-    s.view.At[1] = [&] { EXPECT_TRUE(ExitCommand(g)); };
-    ASSERT_TRUE(UserMove(g, 4, 9, 4, 5));
-    EXPECT_TRUE(g.Ending);
-    EXPECT_FALSE(s.Logged("  Player2 Move"));
+    s.g.Check1 = true;
+    s.g.Clock = [] { return ClockReading{3, 14, 9, 5}; };
+    RecordingSwitch(s.g, true);
+    s.g.BoardStyle = 2;
+    s.view.At[1] = [&] { EXPECT_TRUE(ExitCommand(s.g)); };
+    ASSERT_TRUE(UserMove(s.g, 4, 9, 4, 5));
+    EXPECT_EQ(s.Logged("  Player2 Move"), 0);
     std::size_t lines = 0;
-    EXPECT_EQ(BadLayoutLines(s.t.Path(g.MovesLogFile), lines), "");
+    EXPECT_EQ(BadLayoutLines(s.t.Path(s.g.MovesLogFile), lines), "");
     EXPECT_EQ(lines, 1u);   // the position before the user's move
-
     Impatient next;
     next.t.WriteFile("jarlsvakt.cfg", s.t.ReadFile("jarlsvakt.cfg"));
     ReadConfiguration(next.g, "jarlsvakt.cfg");

@@ -1,3 +1,4 @@
+// The move counts of a position agree with playing every move through the program's own procedures.
 #include <gtest/gtest.h>
 
 #include "core/Board.h"
@@ -11,7 +12,6 @@
 #include "support/Fixtures.h"
 
 using namespace jv;
-using jv::test::PlacePieces;
 using jv::test::TestGame;
 
 namespace {
@@ -120,7 +120,7 @@ TEST(Perft, CapturesAndTheKingsCaptureAgreeWithTheGame) {
     // attacker that can close him in: both counters agree to depth 3 from either side.
     TestGame t;
     Game& g = t.g;
-    PlacePieces(g, 7, 7, {"..a", "K...a", "a.d.d", ".d..a", "..a...d", ".a..d", "...a"});
+    ASSERT_FALSE(ApplyLayoutLine(g, "07070201HE1EEEH0EEE1EE1E0E0EEE0EE1EEEE1EEE0E1EE0EEHEE1EEH"));
     ExpectCountersAgree(g, 3, DefenderCode);
     ExpectCountersAgree(g, 3, AttackerCode);
 }
@@ -131,7 +131,7 @@ TEST(Perft, TheKingAtHomeOrTakenEndsTheLine) {
     // three when the King blocks its line on the centre: 28 sequences of two moves.
     TestGame t;
     Game& g = t.g;
-    PlacePieces(g, 5, 5, {"..K", ".", "....a"});
+    ASSERT_FALSE(ApplyLayoutLine(g, "05050103HE0EHEEEEEEEEE1EEEEEHEEEH"));
     EXPECT_EQ(Perft(g, 1, DefenderCode), 8u);
     EXPECT_EQ(Perft(g, 2, DefenderCode), 28u);
     for (const PerftLine& line : PerftDivide(g, 2, DefenderCode)) {
@@ -141,7 +141,7 @@ TEST(Perft, TheKingAtHomeOrTakenEndsTheLine) {
     }
 
     // The King on D1 between attackers on C1 and E1: the attacker from F2 to D2 takes him.
-    PlacePieces(g, 7, 7, {".", ".", "a", "K", "a", ".a"});
+    ASSERT_FALSE(ApplyLayoutLine(g, "07070401HEEEEEHEEEEEEE1EEEEEE0EEEEEE1EEEEEEE1EEEEEHEEEEEH"));
     bool found = false;
     for (const PerftLine& line : PerftDivide(g, 2, AttackerCode)) {
         const bool takesKing = line.Move.FromCol == 6 && line.Move.ToCol == 4 && line.Move.ToRow == 2;
