@@ -115,17 +115,3 @@ TEST(PlayAutoGame, EndsOnAFreeRunANoMoveOrTheMoveLimit) {
         EXPECT_EQ(result.Moves, r.moves) << r.layout;
     }
 }
-
-TEST(ListMovePreview, APressedLineShowsItsMove) {
-    // A pressed line of a candidate list shows its move as the drag line until released; a line off the
-    // list or off the board shows nothing.
-    TestGame t;
-    ASSERT_FALSE(ApplyLayoutLine(t.g, "07070104HEE0EEHEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEHEEEEEH"));
-    t.view.Clear();
-    PreviewListMove(t.g, {"77001 22998 0104>0102"}, 0);
-    EXPECT_TRUE(t.g.DragLineVisible);
-    EndListMovePreview(t.g);
-    PreviewListMove(t.g, {"77001 22998 0104>0102"}, 1);
-    PreviewListMove(t.g, {"77001 22998 1504>0102"}, 0);
-    EXPECT_EQ(t.view.Calls, (Lines{"ShowDragLine 1 4 1 2", "HideDragLine"}));
-}

@@ -3,7 +3,6 @@
 
 #include "core/Board.h"
 #include "core/Move.h"
-#include "core/Session.h"
 #include "records/LayoutFile.h"
 #include "support/Fixtures.h"
 
@@ -67,16 +66,4 @@ TEST(CheckKingCapture, FourAttackersOrThreeAgainstTheEdge) {
         EXPECT_EQ(CheckKingCapture(t.g), r.taken) << r.rule;
         EXPECT_EQ(t.g.Board(1, 1), HomeCode) << r.rule;
     }
-}
-
-TEST(MakeAttackerMove, TakingTheKingEndsTheGameAndTakesNothingElse) {
-    // The attacker closing the King in ends the game with "King Captured !": the defender it also sandwiches
-    // stays and the board stops taking input.
-    TestGame t;
-    ASSERT_FALSE(ApplyLayoutLine(t.g, "07070401HEEEEEHE1EEEEE10EEEEE0EEEEEE1EEEEEEE1EEEEEHEEEEEH"));
-    MakeAttackerMove(t.g, 6, 2, 4, 2);
-    EXPECT_EQ(t.view.Messages(), std::vector<std::string>{"King Captured !\r\nClick Reset to start a new game [vbcritical+vbok]"});
-    EXPECT_EQ(t.g.Board(3, 2), DefenderCode);
-    EXPECT_TRUE(GameFinished(t.g));
-    EXPECT_FALSE(t.view.BoardEnabled);
 }

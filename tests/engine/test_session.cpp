@@ -1,8 +1,7 @@
-// The program's start, its exit and the automatic game between the computer players.
+// The program's start and its exit.
 #include <gtest/gtest.h>
 
 #include "core/Session.h"
-#include "records/LayoutFile.h"
 #include "support/Fixtures.h"
 
 using namespace jv;
@@ -45,23 +44,4 @@ TEST(ExitCommand, OnlyYesWritesTheConfigurationAndEnds) {
     EXPECT_EQ(t.view.Messages(), Calls(2, "Exit? [vbQuestion + vbYesNo]"));
     EXPECT_EQ(t.ReadFile("jarlsvakt.cfg").substr(0, 16), "xp.col\r\npatf.txt");
     EXPECT_TRUE(t.view.Ended);
-}
-
-TEST(AutoGame, PlaysDefendersFirstThenAttackersUntilTheProgramEnds) {
-    // The automatic game alternates the computer's defender and attacker moves, defenders first, and goes on
-    // after a game has ended until the program ends.
-    TestGame t;
-    Game& g = t.g;
-    ASSERT_FALSE(ApplyLayoutLine(g, "07070404HEEEEEHE1EEE1EEE0EEEEEEE0EEEEEEEEEEE1EEE1EHEEEEEH"));
-    g.Random.Timer = [] { return 1.0; };
-    g.BoardEnabled = false;   // a finished game does not stop it
-    std::string sides;
-    t.view.OnEvents = [&] {
-        sides.clear();
-        for (const std::string& line : g.EventLog)
-            if (line.find(" Move ") != std::string::npos) sides += line.rfind("  Player2", 0) == 0 ? 'A' : 'D';
-        g.Ending = sides.size() >= 4;
-    };
-    AutoGame(g);
-    EXPECT_EQ(sides, "DADA");
 }
