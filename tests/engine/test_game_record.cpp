@@ -1,4 +1,7 @@
+// The game record: the moves of a moves log in standard notation, or the first line that is no single move.
 #include <gtest/gtest.h>
+
+#include <sstream>
 
 #include "core/Move.h"
 #include "core/Pointer.h"
@@ -21,89 +24,50 @@ namespace {
 // and an attacker on g2 (F7).
 const std::string Start = "07070404HEEEEEH0EEEEEEEEE1EEEEEE0EEEEEEEEEEEEEEEE1HEEEEEH";
 
-// A game on a position of its own with its moves log on and no automatic reply.
-struct LoggedGame {
-    TestGame t;
-    explicit LoggedGame(const std::string& layout) {
-        EXPECT_FALSE(ApplyLayoutLine(t.g, layout));
-        t.g.Check1 = false;
-        t.g.MovesLogFile = "log.txt";
-    }
-    void UserMove(int fromCol, int fromRow, int toCol, int toRow) {
-        ASSERT_TRUE(BeginDrag(t.g, fromCol, fromRow));
-        ASSERT_TRUE(EndDrag(t.g, toCol, toRow));
-    }
-    // The log closed with the position on the board, as switching the recording off does.
-    Lines Log() {
-        RecordMove(t.g);
-        Lines lines;
-        ReadLines(t.Path("log.txt"), lines);
-        return lines;
-    }
-};
+// The record of a log, or "line N: reason" when it is refused.
+Lines Verdict(const Lines& log) {
+    const GameRecordResult r = MakeGameRecord(log);
+    return r.Ok ? r.Lines : Lines{"line " + std::to_string(r.BadLine) + ": " + r.Reason};
+}
 
 }  // namespace
 
-TEST(GameRecord, MovesAreNumberedDefendersFirstWithTheirCaptures) {
-    // Each number holds a defenders' move and the attackers' reply; a move that cannot join the number
-    // before starts the next ("3. ... a2-a3"); captures follow an x; equal positions in a row are no move.
-    LoggedGame game(Start);
-    Game& g = game.t.g;
-    const std::string first = LayoutLine(g);
-    MakeDefenderMove(g, 2, 1, 2, 4);   // a6-d6, taking d5 against the King
-    MakeAttackerMove(g, 6, 7, 6, 4);   // g2-d2
-    MakeDefenderMove(g, 4, 4, 4, 1);   // the King d4-a4
-    MakeAttackerMove(g, 6, 4, 6, 1);   // d2-a2
-    MakeAttackerMove(g, 6, 1, 5, 1);   // a2-a3, a second attackers' move in a row
-    RecordMove(g);                     // the recording switched off: the position as it stands
-    const Lines log = game.Log();
-    ASSERT_EQ(log.size(), 7u);
-    EXPECT_EQ(log[5], log[6]);
-
-    const GameRecordResult record = MakeGameRecord(log);
-    ASSERT_TRUE(record.Ok) << record.Reason;
-    EXPECT_EQ(record.Lines, (Lines{"[layout \"" + first + "\"]", "[size \"7x7\"]", "",
-                                   "1. a6-d6xd5 g2-d2", "2. d4-a4 d2-a2", "3. ... a2-a3"}));
-}
-
-TEST(GameRecord, SeveralCapturesTheKingsEscapeAndTheKingTaken) {
-    // Several pieces taken by one move are written in the order they are taken, "xc4/e4/d5"; the King on a
-    // corner ends his move with "--"; the attackers' move that takes the King ends with "#" and takes
-    // nothing else, even a piece it sandwiches.
-    LoggedGame escape("07070606HEEEEEHEEE1EEEEEE0EEEE10E01EEEEEEEEEEEEE0EHEE1EEH");
-    MakeAttackerMove(escape.t.g, 7, 4, 4, 4);   // d1-d4 sandwiches c4, e4 and d5
-    escape.UserMove(6, 6, 6, 7);                // f2-g2
-    MakeAttackerMove(escape.t.g, 4, 4, 5, 4);   // d4-d3
-    escape.UserMove(6, 7, 7, 7);                // g2-g1: the King at Home, a move neither logged nor undone
-    const Lines log = escape.Log();
-    ASSERT_EQ(log.size(), 4u);   // the position after d4-d3 is in no line: the last two moves are one step
-    const GameRecordResult home = MakeGameRecord(log);
-    ASSERT_TRUE(home.Ok) << home.Reason;
-    EXPECT_EQ(Lines(home.Lines.begin() + 3, home.Lines.end()),
-              (Lines{"1. ... d1-d4xc4/e4/d5", "2. f2-g2 d4-d3", "3. g2-g1--"}));
-
-    // The King's own move before his escape can be told apart only when one square fits between: from f2
-    // to g1 he may have passed g2 or f1.
-    LoggedGame twice("07070606HEEEEEHEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEE0EHEEEEEH");
-    twice.UserMove(6, 6, 6, 7);
-    twice.UserMove(6, 7, 7, 7);
-    const GameRecordResult unclear = MakeGameRecord(twice.Log());
-    EXPECT_EQ(unclear.BadLine, 2);
-    EXPECT_EQ(unclear.Reason, "the King reached g1 two moves after the line before, and more than one pair of moves "
-                              "leads there");
-    LoggedGame blocked("07070606HEEEEEHEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEE0EHEEEE1H");
-    blocked.UserMove(6, 6, 6, 7);
-    blocked.UserMove(6, 7, 7, 7);
-    const GameRecordResult clear = MakeGameRecord(blocked.Log());
-    ASSERT_TRUE(clear.Ok) << clear.Reason;
-    EXPECT_EQ(Lines(clear.Lines.begin() + 3, clear.Lines.end()), (Lines{"1. f2-g2", "2. g2-g1--"}));
-
-    LoggedGame taken("07070401HEEEEEHEEEEEEE1EEEEEE01EEEEEEEE1EEE0EEEEEEHEEEEEH");
-    MakeAttackerMove(taken.t.g, 5, 4, 5, 1);   // d3-a3: three attackers round the King on the edge
-    EXPECT_EQ(taken.t.g.Board(6, 1), DefenderCode);   // sandwiched against the corner, but not taken
-    const GameRecordResult captured = MakeGameRecord(taken.Log());
-    ASSERT_TRUE(captured.Ok) << captured.Reason;
-    EXPECT_EQ(captured.Lines.back(), "1. ... d3-a3#");
+TEST(GameRecord, TheMovesOfALoggedGameAreWrittenDefendersFirstWithTheirCaptures) {
+    // Each number holds a defenders' move and the attackers' reply; a move that cannot join the number before
+    // starts the next; captures follow an x in the order they are made; the King Home ends with "--" and the
+    // King taken with "#"; equal positions in a row are no move; the King's two moves to Home are refused when
+    // more than one pair of moves leads there. Moves: D, A the computer's defender or attacker, U the user's,
+    // R the position recorded again.
+    const struct { const char* layout; const char* moves; Lines record; } rows[] = {
+        {Start.c_str(), "D2124 A6764 D4441 A6461 A6151 R",
+         {"1. a6-d6xd5 g2-d2", "2. d4-a4 d2-a2", "3. ... a2-a3"}},
+        {"07070606HEEEEEHEEE1EEEEEE0EEEE10E01EEEEEEEEEEEEE0EHEE1EEH", "A7444 U6667 A4454 U6777",
+         {"1. ... d1-d4xc4/e4/d5", "2. f2-g2 d4-d3", "3. g2-g1--"}},
+        {"07070606HEEEEEHEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEE0EHEEEEEH", "U6667 U6777",
+         {"line 2: the King reached g1 two moves after the line before, and more than one pair of moves leads there"}},
+        {"07070606HEEEEEHEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEE0EHEEEE1H", "U6667 U6777", {"1. f2-g2", "2. g2-g1--"}},
+        {"07070401HEEEEEHEEEEEEE1EEEEEE01EEEEEEEE1EEE0EEEEEEHEEEEEH", "A5451", {"1. ... d3-a3#"}},
+    };
+    for (const auto& r : rows) {
+        TestGame t;
+        ASSERT_FALSE(ApplyLayoutLine(t.g, r.layout));
+        t.g.Check1 = false;
+        t.g.MovesLogFile = "log.txt";
+        std::istringstream moves(r.moves);
+        for (std::string m; moves >> m;) {
+            const int fc = m[1] - '0', fr = m[2] - '0', tc = m[3] - '0', tr = m[4] - '0';
+            if (m[0] == 'D') MakeDefenderMove(t.g, fc, fr, tc, tr);
+            if (m[0] == 'A') MakeAttackerMove(t.g, fc, fr, tc, tr);
+            if (m[0] == 'U') EXPECT_TRUE(BeginDrag(t.g, fc, fr) && EndDrag(t.g, tc, tr)) << m;
+            if (m[0] == 'R') RecordMove(t.g);
+        }
+        RecordMove(t.g);   // the recording switched off: the position as it stands
+        Lines log;
+        ASSERT_TRUE(ReadLines(t.Path("log.txt"), log));
+        Lines record = Verdict(log);
+        if (record.size() > 3) record.erase(record.begin(), record.begin() + 3);   // the layout, the size, a blank
+        EXPECT_EQ(record, r.record) << r.moves;
+    }
 }
 
 TEST(GameRecord, PositionsThatAreNotOneMoveApartAreReportedAtTheFirstBadLine) {
@@ -135,9 +99,8 @@ TEST(GameRecord, PositionsThatAreNotOneMoveApartAreReportedAtTheFirstBadLine) {
         {{}, "line 1: no positions"},
     };
     for (const auto& r : rows) {
-        const GameRecordResult result = MakeGameRecord(r.lines);
-        EXPECT_EQ(result.Ok ? "accepted" : "line " + std::to_string(result.BadLine) + ": " + result.Reason, r.verdict)
-            << r.lines.size() << " lines";
+        const Lines verdict = Verdict(r.lines);
+        EXPECT_EQ(verdict.size() == 1 ? verdict.front() : "accepted", r.verdict) << r.lines.size() << " lines";
     }
 }
 

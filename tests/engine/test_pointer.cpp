@@ -1,7 +1,6 @@
 // The user's drag and drop: which pieces may be picked up, where they may go, and what a drop does.
 #include <gtest/gtest.h>
 
-#include "core/Move.h"
 #include "core/Pointer.h"
 #include "core/Session.h"
 #include "records/LayoutFile.h"
@@ -76,24 +75,6 @@ TEST(Pointer, ADropMovesRecordsAndCapturesOrChangesNothing) {
         EXPECT_FALSE(t.g.DragLineVisible) << r.why;
         EXPECT_EQ(GameFinished(t.g), r.toCol == 1 && r.toRow == 1) << r.why;
     }
-}
-
-TEST(Pointer, WithAutomaticRepliesEveryAcceptedMoveGetsOneAttackerMove) {
-    // With Check1 ticked the computer answers each accepted drop with one attacker move; a refused drop
-    // gets no answer.
-    TestGame t;
-    Game& g = t.g;
-    ASSERT_FALSE(ApplyLayoutLine(g, "07070404HEEEEEHE1EEE1EEE0EEEEEEE0EEEEEEEEEEE1EEE1EHEEEEEH"));
-    g.Check1 = true;
-    g.Random.Timer = [] { return 1.0; };
-    ASSERT_TRUE(BeginDrag(g, 3, 3));
-    EndDrag(g, 3, 1);
-    ASSERT_EQ(g.EventLog.size(), 2u);
-    EXPECT_EQ(g.EventLog[1].substr(0, 14), "  Player2 Move");
-    EXPECT_EQ(g.Undo.size(), 2u);
-    ASSERT_TRUE(BeginDrag(g, 3, 1));
-    EndDrag(g, 4, 4);   // the King's square
-    EXPECT_EQ(g.Undo.size(), 2u);
 }
 
 TEST(Pointer, DropsFollowTheBoardEvenWhenTheTablesAreStale) {
