@@ -46,35 +46,26 @@ TEST(MakeRedAutoMove, TiedBestMovesAreDrawnFromATimerSeededGenerator) {
     EXPECT_GT(played.size(), 1u);
 }
 
-TEST(AutoMove, ASideWithoutAMoveIsToldSoAndNothingMoves) {
-    // With no candidate the side's message is shown, nothing moves and the board is given back.
-    const struct { const char* side; const char* layout; void (*move)(Game&); const char* message; } rows[] = {
-        {"attackers", "05050303HE1EHEE0EEE000EEE0EEHEEEH", MakeRedAutoMove,
+TEST(AutoMove, TheBestListedMoveIsPlayedOrTheSideIsToldItHasNone) {
+    // The defenders play the first line of List1D; with no candidate the side's message is shown, nothing
+    // moves, and the board and the pointer are given back.
+    const struct { const char* layout; void (*move)(Game&); const char* played; const char* message; } rows[] = {
+        {"07070104H0E01EHEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEHEEEEEH", MakeGreenAutoMove, "0102>0103", nullptr},
+        {"05050303HE1EHEE0EEE000EEE0EEHEEEH", MakeRedAutoMove, "",
          "No move for the Attacker\r\nClick Reset to start another Game [Vbcritical+vbok]"},
-        {"defenders", "patf.txt", MakeGreenAutoMove,
-         "No move for the Defender\r\nClick Reset to start another Game [Vbcritical+vbok]"},
+        {"patf.txt", MakeGreenAutoMove, "", "No move for the Defender\r\nClick Reset to start another Game [Vbcritical+vbok]"},
     };
     for (const auto& r : rows) {
         TestGame t;
         ASSERT_FALSE(LoadPosition(t.g, r.layout));
         const std::string before = EncodePosition(t.g);
         r.move(t.g);
-        EXPECT_EQ(EncodePosition(t.g), before) << r.side;
-        EXPECT_EQ(t.view.Messages(), Lines{r.message}) << r.side;
-        EXPECT_TRUE(t.g.BoardEnabled) << r.side;
-        EXPECT_FALSE(t.view.Busy) << r.side;
+        EXPECT_EQ(t.g.Undo.size(), *r.played ? 1u : 0u) << r.layout;
+        EXPECT_EQ(EncodePosition(t.g) == before, !*r.played) << r.layout;
+        if (*r.played) EXPECT_EQ(t.g.List1D.front().substr(12), r.played);
+        EXPECT_EQ(t.view.Messages(), r.message ? Lines{r.message} : Lines{}) << r.layout;
+        EXPECT_TRUE(t.g.BoardEnabled && !t.view.Busy) << r.layout;
     }
-}
-
-TEST(MakeGreenAutoMove, PlaysTheFirstLineOfList1D) {
-    // The defenders' move is the first line of List1D: here the defender from B1 to C1, off the King's run.
-    TestGame t;
-    ASSERT_FALSE(ApplyLayoutLine(t.g, "07070104H0E01EHEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEHEEEEEH"));
-    MakeGreenAutoMove(t.g);
-    EXPECT_EQ(t.g.List1D.front().substr(12), "0102>0103");
-    EXPECT_EQ(t.g.Board(1, 3), DefenderCode);
-    EXPECT_EQ(t.g.Board(1, 2), EmptyCode);
-    EXPECT_EQ(t.g.Undo.size(), 1u);
 }
 
 TEST(RandomMover, PlaysTheSmallestDrawnLineOnTheBoardAsItStands) {

@@ -28,29 +28,22 @@ std::string Refusal(const std::string& otn) {
 
 TEST(Notation, FilesRunAcrossAndRanksUpFromTheLastColumn) {
     // On a board of 9 Cols and 7 Rows, files a..g run along the Row and rank 1 is Col 9; every square reads
-    // back, and anything that is no square of the board is refused.
+    // back, and anything that is no square or no move of the board is refused.
     TestGame t;
-    Game& g = t.g;
-    NewBoard(g, 9, 7);
-    EXPECT_EQ(StandardSquare(g, 1, 1), "a9");
-    EXPECT_EQ(StandardSquare(g, 9, 7), "g1");
-    EXPECT_EQ(StandardSquare(g, 3, 5), "e7");
+    NewBoard(t.g, 9, 7);
+    EXPECT_EQ((std::array{StandardSquare(t.g, 1, 1), StandardSquare(t.g, 9, 7), StandardSquare(t.g, 3, 5)}),
+              (std::array<std::string, 3>{"a9", "g1", "e7"}));
+    int c = -5, r = -5;
     for (int col = 1; col <= 9; ++col)
-        for (int row = 1; row <= 7; ++row) {
-            int c = 0, r = 0;
-            ASSERT_TRUE(ReadStandardSquare(g, StandardSquare(g, col, row), c, r)) << col << "," << row;
-            EXPECT_EQ(std::make_pair(c, r), std::make_pair(col, row));
-        }
-    for (const char* text : {"h1", "a10", "a0", "a01", "A1", "", "a", "1a", "a1x", "aa1", "a-1", "a 1"}) {
-        int c = -5, r = -5;
-        EXPECT_FALSE(ReadStandardSquare(g, text, c, r)) << text;
-        EXPECT_EQ(c, -5) << text;
-    }
+        for (int row = 1; row <= 7; ++row)
+            EXPECT_TRUE(ReadStandardSquare(t.g, StandardSquare(t.g, col, row), c, r) && c == col && r == row) << col << "," << row;
+    for (const char* text : {"h1", "a10", "a0", "a01", "A1", "", "a", "1a", "a1x", "aa1", "a-1", "a 1"})
+        EXPECT_FALSE(ReadStandardSquare(t.g, text, c, r)) << text;
     StandardMove move;
-    ASSERT_TRUE(ReadStandardMove(g, "e7-g7", move));
+    ASSERT_TRUE(ReadStandardMove(t.g, "e7-g7", move));
     EXPECT_EQ((std::array{move.FromCol, move.FromRow, move.ToCol, move.ToRow}), (std::array{3, 5, 3, 7}));
     for (const char* text : {"h1-a1", "a1-a10", "d1d4", "d1-", "0304>0302", "d1-d4x", "D1-D4"})
-        EXPECT_FALSE(ReadStandardMove(g, text, move)) << text;
+        EXPECT_FALSE(ReadStandardMove(t.g, text, move)) << text;
 }
 
 TEST(Otn, PositionsAreWrittenRankByRankAndReadBack) {
@@ -64,10 +57,10 @@ TEST(Otn, PositionsAreWrittenRankByRankAndReadBack) {
     for (const auto& r : rows) {
         TestGame t;
         ASSERT_FALSE(ApplyLayoutLine(t.g, r.layout));
-        EXPECT_EQ(OtnPosition(t.g), r.otn);
+        EXPECT_EQ(OtnPosition(t.g), r.otn) << r.layout;
         std::string line, reason;
         ASSERT_TRUE(OtnToLayoutLine(r.otn, line, reason)) << reason;
-        EXPECT_EQ(line, r.layout);
+        EXPECT_EQ(line, r.layout) << r.otn;
     }
     TestGame t;
     ASSERT_FALSE(ReadLayoutFile(t.g, DataPath("patf.txt")));
