@@ -2,10 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <regex>
-#include <sstream>
 
-#include "records/TextFile.h"
 #include "support/Fixtures.h"
 #include "support/RunCli.h"
 
@@ -30,20 +27,6 @@ std::string Missing(const Lines& out, const Lines& want) {
     return missing;
 }
 
-// The moves of a game record as `play` takes them: "defender:e6-d6 attacker:f1-f4 ...".
-std::string PlayMoves(const Lines& record) {
-    const std::regex move("^([a-z][0-9]+-[a-z][0-9]+)(x[a-z0-9/]+)?(--|#)?$");
-    std::string moves;
-    for (const std::string& line : record) {
-        if (line.empty() || line[0] == '[') continue;
-        std::istringstream words(line);
-        std::string word, side = "defender:";
-        words >> word;   // the number
-        for (std::smatch m; words >> word; side = "attacker:")
-            if (word != "..." && std::regex_match(word, m, move)) moves += " " + side + m[1].str();
-    }
-    return moves;
-}
 }  // namespace
 
 TEST(Cli, EachCommandPrintsItsResultOrRefusesWithItsExitCode) {
@@ -67,12 +50,10 @@ TEST(Cli, EachCommandPrintsItsResultOrRefusesWithItsExitCode) {
           "F   a  a  .  d  d  K  d  d  .  a  a"}, ""},
         {"otn patf.txt", "", 0, {"/3ttttt3/5t5/11/t4T4t/t3TTT3t/tt1TTKTT1tt/t3TTT3t/t4T4t/11/5t5/3ttttt3/"}, ""},
         {"otn -", "07070404HEE1EEHEEE1EEEEEE0EEE1100011EEE0EEEEEE1EEEHEE1EEH\r\n", 0, {"/3t3/3t3/3T3/ttTKTtt/3T3/3t3/3t3/"}, ""},
-        {"otn", "", 1, {}, "?"},
         {"from-otn /3/1K1/3/ '" + t.Path("made.txt") + "'", "", 0, {"03030202HEHE0EHEH"}, ""},
         {"from-otn /3/1T1/3/ '" + t.Path("noking.txt") + "'", "", 2, {}, "Not an OpenTafl position JarlsVakt can play: the position has no King\n"},
         {"record game.txt", "", 0, {"[layout \"" + Small + "\"]", "[size \"5x5\"]", "", "1. ... b4-d4", "2. c3-c2"}, ""},
         {"record bad.txt", "", 2, {}, "Moves Log File:\nbad.txt\nline 4: pieces arrived on d4/c2: more than one move\n"},
-        {"record nothere.txt", "", 2, {}, "Moves Log File:\nnothere.txt\ncould not be read\n"},
         {"replay game.txt", "", 0, {"Step 1 of 3", "    1  2  3  4  5", "B   .  a  .  .  .", "Step 3 of 3", "D   .  .  K  .  ."}, ""},
         {"play pattern1.txt 'user:0304>0302' 'user:0504>0502' 'user:0104>0105' 'user:0404>0304' 'user:0405>0404' "
          "'attacker:0604>0504' undo 'defender:0403>0303'", "", 0,
@@ -90,7 +71,6 @@ TEST(Cli, EachCommandPrintsItsResultOrRefusesWithItsExitCode) {
         {"play nothere.txt", "", 2, {"MESSAGE [vbcritical+vbok]: Error reading Layout File: / nothere.txt"}, "?"},
         {"perft pattern1.txt 1", "", 0, {"0304>0303: 1", "total: 24"}, ""},
         {"perft pattern1.txt 2 --side attackers", "", 0, {"total: 960"}, ""},
-        {"perft pattern1.txt 2 --side both", "", 1, {}, "?"},
         {"rank defenders patf.txt --mode 2", "", 1, {}, "?"},
         {"rank attackers nothere.txt", "", 2, {}, "Error reading Layout File:\nnothere.txt\n"},
         {"selfplay run.txt --games 2", "", 0, {"game 1: King with a free run home after 0 moves",
@@ -106,30 +86,4 @@ TEST(Cli, EachCommandPrintsItsResultOrRefusesWithItsExitCode) {
     }
     EXPECT_EQ(t.ReadFile("made.txt"), "03030202HEHE0EHEH\r\n");
     EXPECT_EQ(t.ReadFile("noking.txt"), "");
-}
-
-TEST(Cli, ASelfPlayGameReplayedFromItsRecordReachesTheSamePosition) {
-    // A self-play game's moves log turned into a game record, and the record's moves played through `play`,
-    // end on the log's final position.
-    TestGame t;
-    t.CopyData("all.col");
-    t.WriteFile("open.txt", "09090505" "HEE111EEH" "EEEE1EEEE" "EE1EEEEEE" "1EEE0EEE1" "11E000E11" "1EEE0EEE1" "EEEEEE1EE"
-                            "EEEE1EEEE" "HEE111EEH\r\n");
-    bool replayedACapture = false;
-    for (int seed = 1; seed <= 5 && !replayedACapture; ++seed) {
-        const std::string logs = t.Path("logs" + std::to_string(seed));
-        const auto game = RunCli("selfplay open.txt --games 1 --max-moves 200 --seed " + std::to_string(seed) + " --log '" +
-                                 logs + "'", t.folder.string());
-        ASSERT_EQ(game.exitCode, 0) << game.err;
-        Lines log;
-        ASSERT_TRUE(jv::ReadLines(logs + "/game0001.txt", log));
-        const auto record = RunCli("record '" + logs + "/game0001.txt'", t.folder.string());
-        ASSERT_EQ(record.exitCode, 0) << record.err;
-        const auto replay = RunCli("play open.txt" + PlayMoves(record.out), t.folder.string());
-        ASSERT_EQ(replay.exitCode, 0) << replay.err;
-        for (const std::string& line : replay.out) EXPECT_EQ(line.find("REFUSED"), std::string::npos) << line;
-        EXPECT_EQ(replay.out.back(), "LAYOUT " + log.back());
-        for (const std::string& line : record.out) replayedACapture |= line.find('x') != std::string::npos;
-    }
-    EXPECT_TRUE(replayedACapture);
 }

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <tuple>
 
 #include "records/Configuration.h"
 #include "support/Fixtures.h"
@@ -17,15 +18,10 @@ const std::string Defaults = "xp.col\r\npatf.txt\r\nplayer00.ico\r\nplayer10.ico
 
 // Settings that differ from every default, so a test sees which ones a read touched.
 void UnusualSettings(Game& g) {
-    g.SchemeFile = "night.col";
-    g.LayoutFile = "pattern3.txt";
-    g.PictureFiles = {"a.ico", "b.ico", "c.ico", "d.ico"};
-    g.PieceColours = {1, 2, 3, 4};
-    g.BoardStyle = 2;
-    g.SquareGap = 5;
-    g.ShowLabels = 0;
-    g.ColourMode = 1;
-    g.ColourTable[13] = 77;
+    std::tie(g.SchemeFile, g.LayoutFile, g.PictureFiles, g.PieceColours) =
+        std::tuple("night.col", "pattern3.txt", std::array<std::string, 4>{"a.ico", "b.ico", "c.ico", "d.ico"},
+                   std::array<std::int32_t, 4>{1, 2, 3, 4});
+    std::tie(g.BoardStyle, g.SquareGap, g.ShowLabels, g.ColourMode, g.ColourTable[13]) = std::tuple(2, 5, 0, 1, 77);
 }
 
 // The settings in force, in the file's order.

@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <map>
 
 #include "core/Board.h"
 #include "records/LayoutFile.h"
@@ -22,28 +21,23 @@ const std::string Opening = "11110606HEE11111EEHEEEEE1EEEEEEEEEEEEEEEE1EEEE0EEEE
 TEST(LayoutFile, TheFirstLineIsReadOntoAFreshBoardOrTheFileIsRefused) {
     // The reader takes the first line as width, height, the King's square and one letter per square; a
     // missing file, a folder, or a board wider or higher than 14 is refused and the board stays as it was.
-    const struct { const char* why; const char* content; bool fails; std::string after; } rows[] = {
-        {"CR LF", "\r\n", false, Opening},
-        {"LF and a second line", "\nsecond line\n", false, Opening},
-        {"15 wide", nullptr, true, Small},
-        {"15 high", nullptr, true, Small},
-        {"14 by 14", nullptr, false, "14140000H" + std::string(12, 'E') + "H" + std::string(168, 'E') + "H" + std::string(12, 'E') + "H"},
-        {"no digits for the width", nullptr, false, "00050000"},
-        {"a short line", nullptr, false, "05050303H1EEH" + std::string(15, 'E') + "HEEEH"},
-        {"missing", nullptr, true, Small},
-        {"a folder", nullptr, true, Small},
+    const struct { const char* why; std::string content; bool fails; std::string after; } rows[] = {
+        {"CR LF", Opening + "\r\n", false, Opening},
+        {"LF and a second line", Opening + "\nsecond line\n", false, Opening},
+        {"15 wide", "1505" + std::string(80, 'E'), true, Small},
+        {"15 high", "0515" + std::string(80, 'E'), true, Small},
+        {"14 by 14", "1414" + std::string(200, 'E'), false,
+         "14140000H" + std::string(12, 'E') + "H" + std::string(168, 'E') + "H" + std::string(12, 'E') + "H"},
+        {"no digits for the width", "xx05", false, "00050000"},
+        {"a short line", "05050303E1", false, "05050303H1EEH" + std::string(15, 'E') + "HEEEH"},
+        {"missing", "", true, Small},
+        {"a folder", "", true, Small},
     };
-    const std::map<std::string, std::string> files = {
-        {"15 wide", "1505" + std::string(80, 'E')}, {"15 high", "0515" + std::string(80, 'E')},
-        {"14 by 14", "1414" + std::string(200, 'E')}, {"no digits for the width", "xx05"},
-        {"a short line", "05050303E1"}};
     for (const auto& r : rows) {
         TestGame t;
         ASSERT_FALSE(ApplyLayoutLine(t.g, Small));
-        std::string path = t.Path("layout.txt");
-        if (r.content) t.WriteFile("layout.txt", Opening + r.content);
-        else if (files.count(r.why)) t.WriteFile("layout.txt", files.at(r.why));
-        else if (std::string(r.why) == "a folder") path = t.folder.string();
+        if (!r.content.empty()) t.WriteFile("layout.txt", r.content);
+        const std::string path = std::string(r.why) == "a folder" ? t.folder.string() : t.Path("layout.txt");
         EXPECT_EQ(ReadLayoutFile(t.g, path), r.fails) << r.why;
         EXPECT_EQ(LayoutLine(t.g), r.after) << r.why;
     }

@@ -1,6 +1,8 @@
 // The move counts of a position agree with playing every move through the program's own procedures.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "core/Board.h"
 #include "core/Move.h"
 #include "core/Perft.h"
@@ -20,11 +22,9 @@ namespace {
 // program's own procedures, the user's drag and drop for the defenders and
 // MakeAttackerMove for the attackers.
 
-bool IsCentre(const Game& g, int col, int row) { return col == g.CentreCol && row == g.CentreRow; }
-
 // The moves of a side: for a defender, every square of its row and column
-// that the pointer accepts as a drop, but the centre for anyone but the King;
-// for an attacker, its targets but the centre.
+// that the pointer accepts as a drop; for an attacker, its targets; the
+// centre for nobody but the King.
 std::vector<PerftMove> SlowMoves(Game& g, int side) {
     std::vector<PerftMove> moves;
     for (int col = 1; col <= g.BoardWidth; ++col)
@@ -32,17 +32,14 @@ std::vector<PerftMove> SlowMoves(Game& g, int side) {
             if (g.Board(col, row) != side) continue;
             const bool king = col == g.KingCol && row == g.KingRow;
             auto add = [&](int c, int r) {
-                if (king || !IsCentre(g, c, r)) moves.push_back({col, row, c, r});
+                if (king || c != g.CentreCol || r != g.CentreRow) moves.push_back({col, row, c, r});
             };
-            if (side == AttackerCode) {
-                ForEachSquareItem(g.MoveTargets(col, row), add);
-                continue;
-            }
+            if (side == AttackerCode) ForEachSquareItem(g.MoveTargets(col, row), add);
             g.DragSource = Square{col, row};
-            for (int c = 1; c <= g.BoardWidth; ++c)
-                if (AcceptsDrop(g, c, row)) add(c, row);
-            for (int r = 1; r <= g.BoardHeight; ++r)
-                if (AcceptsDrop(g, col, r)) add(col, r);
+            for (int k = 1; side == DefenderCode && k <= std::max(g.BoardWidth, g.BoardHeight); ++k) {
+                if (AcceptsDrop(g, k, row)) add(k, row);
+                if (AcceptsDrop(g, col, k)) add(col, k);
+            }
             g.DragSource = Square{};
         }
     return moves;
@@ -51,12 +48,8 @@ std::vector<PerftMove> SlowMoves(Game& g, int side) {
 Game SlowMove(const Game& g, const PerftMove& m, int side) {
     Game next = g;
     next.Check1 = false;   // the computer does not answer: the counter plays both sides
-    if (side == DefenderCode) {
-        EXPECT_TRUE(BeginDrag(next, m.FromCol, m.FromRow));
-        EXPECT_TRUE(EndDrag(next, m.ToCol, m.ToRow));
-    } else {
-        MakeAttackerMove(next, m.FromCol, m.FromRow, m.ToCol, m.ToRow);
-    }
+    if (side == AttackerCode) MakeAttackerMove(next, m.FromCol, m.FromRow, m.ToCol, m.ToRow);
+    else EXPECT_TRUE(BeginDrag(next, m.FromCol, m.FromRow) && EndDrag(next, m.ToCol, m.ToRow));
     EXPECT_NE(EncodePosition(next), EncodePosition(g));
     return next;
 }
