@@ -1,4 +1,4 @@
-// The analysis of a position: each piece's targets, the capture chances of both sides and the counters.
+// The analysis of a position: the capture chances of both sides and the counters.
 #include <gtest/gtest.h>
 
 #include "records/LayoutFile.h"
@@ -6,24 +6,6 @@
 
 using namespace jv;
 using jv::test::TestGame;
-
-TEST(Analysis, TargetsAreTheFreeSquaresOfEachStraightLineNearestFirst) {
-    // A piece's targets are the empty squares of its lines, up, down, left, right; never a Home corner.
-    struct Row { const char* layout; int col, row; const char* targets; };
-    const Row rows[] = {
-        {"05050304HEEEHEE1EEE0E0EEEEEEHEEEH", 2, 3, "0103,0303,0403,0503,0202,0201,0204,0205,"},
-        {"05050304HEEEHEE1EEE0E0EEEEEEHEEEH", 3, 2, "0202,0102,0402,0502,0301,0303,"},
-        {"05050304HEEEHEE1EEE0E0EEEEEEHEEEH", 3, 4, "0204,0104,0404,0504,0303,0305,"},
-        {"05050304HEEEHEE1EEE0E0EEEEEEHEEEH", 3, 3, ""},
-        {"05050000HEEEHEE0EEE010EEE0EEHEEEH", 3, 3, ""},
-        {"05050000HEEEHEEEEEEEEEEEEEEEHEEEH", 1, 1, "0201,0301,0401,0102,0103,0104,"},
-    };
-    for (const Row& r : rows) {
-        TestGame t;
-        ASSERT_FALSE(ApplyLayoutLine(t.g, r.layout));
-        EXPECT_EQ(t.g.MoveTargets(r.col, r.row), r.targets) << r.layout << " at " << r.col << "," << r.row;
-    }
-}
 
 TEST(Analysis, ChancesNameTheEmptySquareThatCompletesASandwich) {
     // An attacker, a defender and an empty square in a line give the attackers a chance, the mirrored line

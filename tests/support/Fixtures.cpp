@@ -28,13 +28,9 @@ TestGame::~TestGame() {
 }
 
 void TestGame::CopyData(const std::string& name) {
-    const fs::path source(JARLSVAKT_DATA_DIR);
-    if (!name.empty()) {
-        fs::copy_file(source / name, folder / name, fs::copy_options::overwrite_existing);
-        return;
-    }
-    for (const auto& entry : fs::directory_iterator(source))
-        fs::copy_file(entry.path(), folder / entry.path().filename(), fs::copy_options::overwrite_existing);
+    for (const auto& entry : fs::directory_iterator(fs::path(JARLSVAKT_DATA_DIR)))
+        if (name.empty() || entry.path().filename() == name)
+            fs::copy_file(entry.path(), folder / entry.path().filename(), fs::copy_options::overwrite_existing);
 }
 
 std::string TestGame::WriteFile(const std::string& name, const std::string& content) {
