@@ -14,8 +14,8 @@ namespace {
 std::string Captured(const Game& g) {
     std::string names;
     for (const std::string& line : g.EventLog)
-        if (const auto at = line.find("captures "); at != std::string::npos) names += (names.empty() ? "" : " ") + line.substr(at + 9);
-    return names;
+        if (const auto at = line.find("captures "); at != std::string::npos) names += " " + line.substr(at + 9);
+    return names.empty() ? names : names.substr(1);
 }
 }  // namespace
 
@@ -64,6 +64,6 @@ TEST(CheckKingCapture, FourAttackersOrThreeAgainstTheEdge) {
         TestGame t;
         ASSERT_FALSE(ApplyLayoutLine(t.g, r.layout)) << r.rule;
         EXPECT_EQ(CheckKingCapture(t.g), r.taken) << r.rule;
-        EXPECT_EQ(t.g.Board(1, 1), HomeCode) << r.rule;
+        EXPECT_EQ(t.g.Board(1, 1), HomeCode) << r.rule;   // a corner standing in for an attacker is Home again
     }
 }

@@ -39,7 +39,6 @@ TEST(Cli, EachCommandPrintsItsResultOrRefusesWithItsExitCode) {
     t.WriteFile("bad.txt", Small + "\r\n" + Moved + "\r\n" + Small + "\r\n" + KingMoved + "\r\n");
     t.WriteFile("kinghome.txt", "07070104HEE0EEH" + std::string(35, 'E') + "HEEEEEH\r\n");
     t.WriteFile("taken.txt", "07070401HEEEEEHE1EEEEE10EEEEE0EEEEEE1EEEEEEE1EEEEEHEEEEEH\r\n");
-    t.WriteFile("run.txt", "07070104HEE0EEH" + std::string(35, 'E') + "HEEEEEH\r\n");
     const struct { std::string args, input; int exit; Lines out; std::string err; } rows[] = {
         {"analyse small.txt", "", 0, {"size 5 5", "king 0303", "targets 0202 0102,0302,0402,0502,0201,0203,0204,0205,",
           "targets 0303 0203,0103,0403,0503,0302,0301,0304,0305,", "reach0 0103,0203,0301,0302,0304,0305,0403,0503,",
@@ -73,10 +72,10 @@ TEST(Cli, EachCommandPrintsItsResultOrRefusesWithItsExitCode) {
         {"perft pattern1.txt 2 --side attackers", "", 0, {"total: 960"}, ""},
         {"rank defenders patf.txt --mode 2", "", 1, {}, "?"},
         {"rank attackers nothere.txt", "", 2, {}, "Error reading Layout File:\nnothere.txt\n"},
-        {"selfplay run.txt --games 2", "", 0, {"game 1: King with a free run home after 0 moves",
+        {"selfplay kinghome.txt --games 2", "", 0, {"game 1: King with a free run home after 0 moves",
           "2 games: King captured 0, King at Home 0, King with a free run home 2, no move for the defenders 0, "
           "no move for the attackers 0, move limit 0"}, ""},
-        {"selfplay run.txt --games x", "", 1, {}, "?"},
+        {"selfplay kinghome.txt --games x", "", 1, {}, "?"},
     };
     for (const auto& r : rows) {
         const auto result = RunCli(r.args, t.folder.string(), r.input);
