@@ -181,8 +181,7 @@ TEST(ImpatientUser, AnUndoDuringACaptureTakesOnlyPiecesStillSandwiched) {
     s.g.Undo = {EncodePosition(earlier)};
     s.view.At[2] = [&] { Undo_MouseUp(s.g, 1); };   // 1: the animation, 2: the capture of H3
     MakeAttackerMove(s.g, 9, 6, 9, 3);
-    EXPECT_EQ(s.g.Board(8, 3), DefenderCode);
-    EXPECT_EQ(s.g.KingCol * 100 + s.g.KingRow, 803);
+    EXPECT_EQ(std::tie(s.g.Board(8, 3), s.g.KingCol, s.g.KingRow), std::tuple(DefenderCode, 8, 3));
 }
 
 TEST(ImpatientUser, AMoveWhosePieceWasMovedMeanwhileIsNotMadeAndASecondDropIsAMoveOfItsOwn) {
@@ -200,8 +199,7 @@ TEST(ImpatientUser, AMoveWhosePieceWasMovedMeanwhileIsNotMadeAndASecondDropIsAMo
     s.view.At[1] = [&] { EXPECT_TRUE(UserMove(s.g, 8, 3, 8, 1)); };
     ASSERT_TRUE(UserMove(s.g, 4, 9, 4, 5));
     EXPECT_EQ(s.g.Undo.size(), 4u);   // two user moves and two answers
-    EXPECT_EQ(s.Logged("  Player2 Move"), 2);
-    EXPECT_EQ(s.Logged("  Player 1 captures C5"), 1);
+    EXPECT_EQ(std::tuple(s.Logged("  Player2 Move"), s.Logged("  Player 1 captures C5")), std::tuple(2, 1));
     EXPECT_EQ(s.Unsoundness(), "");
 }
 
@@ -211,11 +209,7 @@ TEST(ImpatientUser, WhileTheComputerMovesTheBoardRefusesADragAndTheButtonsWork) 
     Impatient s;
     const std::string before = LoadCaptures(s);
     bool dragged = true;
-    s.view.At[1] = [&] {
-        dragged = BeginDrag(s.g, 4, 9);
-        GetAttackerRank(s.g);
-        EditorCommand(s.g);
-    };
+    s.view.At[1] = [&] { dragged = BeginDrag(s.g, 4, 9); GetAttackerRank(s.g); EditorCommand(s.g); };
     MakeRedAutoMove(s.g);
     EXPECT_FALSE(dragged);
     EXPECT_FALSE(s.g.List1A.empty());

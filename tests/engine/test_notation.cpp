@@ -93,8 +93,6 @@ TEST(OtnFiles, AnOtnFileIsLoadedAndSavedLikeALayout) {
     // game stays; a save under a name ending in .otn writes the OTN of the board.
     TestGame t;
     Game& g = t.g;
-    t.CopyData("patf.txt");
-    LoadLayout(g, "patf.txt");
     t.WriteFile("brandubh.otn", std::string(BrandubhOtn) + "\r\n");
     t.WriteFile("noking.otn", "/3/1T1/3/\r\n");
     t.view.FileChoices = {"brandubh.otn", "noking.otn", "opening.OTN"};

@@ -1,6 +1,7 @@
 // The computer players' rules one by one: each names the squares it wants with its weight and its words.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 #include <string>
 #include <vector>
@@ -96,12 +97,8 @@ TEST(DefenderRank, TheRulesComeFirstAndTheBestCandidateHeadsTheList) {
         ASSERT_FALSE(ApplyLayoutLine(t.g, r.layout)) << r.rule;
         GetDefenderRank(t.g, 0);
         const Lines& got = t.g.DefenderMovesRank;
-        ASSERT_GE(got.size(), r.lines.size()) << r.rule;
-        EXPECT_EQ(Lines(got.begin(), got.begin() + static_cast<long>(r.lines.size())), r.lines) << r.rule;
-        if (*r.best) {
-            ASSERT_FALSE(t.g.List1D.empty()) << r.rule;
-            EXPECT_EQ(t.g.List1D.front(), r.best) << r.rule;
-        }
+        EXPECT_EQ(Lines(got.begin(), got.begin() + static_cast<long>(std::min(got.size(), r.lines.size()))), r.lines) << r.rule;
+        if (*r.best) EXPECT_EQ(t.g.List1D.empty() ? "" : t.g.List1D.front(), r.best) << r.rule;
     }
 }
 
