@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <tuple>
 
 #include "records/LayoutFile.h"
 #include "records/Layouts.h"
@@ -21,11 +22,9 @@ TEST(LoadLayout, AFailedLoadBringsThePreviousLayoutBackOrAnEmptyBoard) {
     g.Undo = {"x"};
     g.BoardEnabled = false;
     LoadLayout(g, "patf.txt");
-    EXPECT_TRUE(g.Undo.empty());
-    EXPECT_TRUE(t.view.BoardEnabled);
+    EXPECT_TRUE(g.Undo.empty() && t.view.BoardEnabled);
     LoadLayout(g, "missing.txt");
-    EXPECT_EQ(g.LayoutFile, "patf.txt");
-    EXPECT_EQ(t.view.LayoutCaption, "patf.txt");
+    EXPECT_EQ(std::tie(g.LayoutFile, t.view.LayoutCaption), std::tuple("patf.txt", "patf.txt"));
     EXPECT_EQ(LayoutLine(g) + "\r\n", t.ReadFile("patf.txt"));
     std::filesystem::remove(t.Path("patf.txt"));
     LoadLayout(g, "patf.txt");

@@ -42,8 +42,7 @@ TEST(MovesLog, SwitchingOnNamesTheLogAndSwitchingOffRecordsThePosition) {
     EXPECT_EQ(t.view.Messages(),
               (Lines{"Start recording moves to file:\r\nmoveslogfile03140905.txt [vbinformation+vbok]",
                      "Recoding of moves stopped, log is in file:\r\nmoveslogfile03140905.txt [vbinformation+vbok]"}));
-    EXPECT_EQ(t.ReadFile("moveslogfile03140905.txt"), line + "\r\n");
-    EXPECT_EQ(t.g.MovesLogFile, "moveslogfile03140905.txt");
+    EXPECT_EQ(t.ReadFile(t.g.MovesLogFile), line + "\r\n");
     EXPECT_EQ(MovesLogFileName({12, 1, 23, 59}), "moveslogfile12012359.txt");
 }
 
