@@ -8,9 +8,7 @@ using namespace jv;
 using jv::test::TestGame;
 
 TEST(Analysis, ChancesNameTheEmptySquareThatCompletesASandwich) {
-    // An attacker, a defender and an empty square in a line give the attackers a chance, the mirrored line
-    // the defenders; lines along the second index come first; the King beside an attacker is also a King
-    // capture square; a Home corner completes no chance; the defender counter leaves the King out.
+    // A line of attacker, defender and empty square is a chance for the side that would complete the sandwich.
     struct Row { const char* layout; const char* attackers; const char* defenders; const char* king; int d, a; };
     const Row rows[] = {
         {"07070704HEEEEEHEEEEEEEE10EEEEEEEEEEEEEEEEEEEEEEEEEHEE0EEH", "0304,", "0301,", "", 1, 1},

@@ -90,8 +90,7 @@ void ExpectSameOutcome(const Game& a, const Game& b, const std::string& where) {
 }  // namespace
 
 TEST(GetAttackerRank, GivesWhatThePlainTrialLoopGives) {
-    // The ranking lists the same moves with the same scores, and leaves the same tables, as trying every move
-    // with a full analysis before and after, also when it starts from the tables a rejected trial left.
+    // The attackers' ranking gives the lists and leaves the tables that trying every move in full would.
     int staleStarts = 0;
     const std::string crowded = jv::test::TestDataPath("crowded14.txt");
     for (const std::string layout : {"patf.txt", "pattern1.txt", "pattern2.txt", "pattern3.txt", "pattern4.txt",

@@ -26,8 +26,7 @@ bool LoadPosition(Game& g, const std::string& layout) {
 }  // namespace
 
 TEST(MakeRedAutoMove, TiedBestMovesAreDrawnFromATimerSeededGenerator) {
-    // Every line sharing the best score goes into List3; the move is line Int(Rnd * n + 1) after reseeding
-    // from the timer, so different timer readings can give different moves.
+    // The computer plays line Int(Rnd * n + 1) of its tied best moves, drawn after reseeding from the timer.
     std::set<std::string> played;
     for (double seed : {12345.0, 1.5, 777.25, 40000.0, 86399.0, 3.0}) {
         TestGame t;
@@ -47,8 +46,7 @@ TEST(MakeRedAutoMove, TiedBestMovesAreDrawnFromATimerSeededGenerator) {
 }
 
 TEST(AutoMove, TheBestListedMoveIsPlayedOrTheSideIsToldItHasNone) {
-    // The defenders play the first line of List1D; with no candidate the side's message is shown, nothing
-    // moves, and the board and the pointer are given back.
+    // The computer plays its best listed move, or says the side has no move and gives the board back.
     const struct { const char* layout; void (*move)(Game&); const char* played; const char* message; } rows[] = {
         {"07070104H0E01EHEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEHEEEEEH", MakeGreenAutoMove, "0102>0103", nullptr},
         {"05050303HE1EHEE0EEE000EEE0EEHEEEH", MakeRedAutoMove, "",
@@ -69,8 +67,7 @@ TEST(AutoMove, TheBestListedMoveIsPlayedOrTheSideIsToldItHasNone) {
 }
 
 TEST(RandomMover, PlaysTheSmallestDrawnLineOnTheBoardAsItStands) {
-    // The candidates are the moves of the board as it stands, whatever a ranking left in the tables; ten
-    // rounds of both sides make twenty undo records; a side without a move records nothing.
+    // The random mover plays a move of the board as it stands, one record per move it makes.
     TestGame t;
     Game& g = t.g;
     ASSERT_FALSE(ApplyLayoutLine(g, "05050504HE0EHEE10EEE0EEEEEEEHEE0H"));
@@ -91,8 +88,7 @@ TEST(RandomMover, PlaysTheSmallestDrawnLineOnTheBoardAsItStands) {
 }
 
 TEST(PlayAutoGame, EndsOnAFreeRunANoMoveOrTheMoveLimit) {
-    // A self-play game ends on the defenders' turn when the King sees a corner along a free line, when a
-    // side has no move, or when the moves run out.
+    // A self-play game ends on the King's free run home, on a side without a move, or at the move limit.
     const struct { const char* layout; int limit; GameEnd end; int moves; } rows[] = {
         {"07070104HEE0EEHEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEHEEEEEH", 300, GameEnd::KingFreeRun, 0},
         {"07070104H0E01EHEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEHEEEEEH", 1, GameEnd::MoveLimit, 1},

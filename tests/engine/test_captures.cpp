@@ -1,7 +1,6 @@
 // The capture rules: the sandwich of an ordinary piece, and the King taken by four or by three against the edge.
 #include <gtest/gtest.h>
 
-#include "core/Board.h"
 #include "core/Move.h"
 #include "records/LayoutFile.h"
 #include "support/Fixtures.h"
@@ -20,9 +19,7 @@ std::string Captured(const Game& g) {
 }  // namespace
 
 TEST(CaptureAround, TakesWhatTheMovedPieceSandwiches) {
-    // A piece that has just moved takes each enemy it sandwiches against a piece of its own side or a Home
-    // corner, up, down, right then left; the frame and the empty centre complete no sandwich, the King is
-    // never taken by two and stops the search.
+    // A moved piece takes each enemy it sandwiches against its own side or a Home corner, never the King.
     struct Row { const char* rule; const char* layout; int col, row; const char* captured; };
     const Row rows[] = {
         {"all four sides", "07070606HE1EEEHEE0EEEE10101EEEE0EEEEEE1EEEEEEEEE0EHEEEEEH", 3, 3, "C2 C4 D3 B3"},
@@ -44,8 +41,7 @@ TEST(CaptureAround, TakesWhatTheMovedPieceSandwiches) {
 }
 
 TEST(CheckKingCapture, FourAttackersOrThreeAgainstTheEdge) {
-    // The King is taken by four attackers round him, or by three against the edge; a Home corner beside
-    // him stands in for an attacker, the empty centre does not; a King off the board is never taken.
+    // The King is taken by four attackers, or by three against the edge, a Home corner counting as one.
     struct Row { const char* rule; const char* layout; int taken; };
     const Row rows[] = {
         {"four in the open", "07070303HEEEEEHEE1EEEEE101EEEEE1EEEEEEEEEEEEEEEEEEHEEEEEH", 99},

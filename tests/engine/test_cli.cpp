@@ -18,8 +18,7 @@ const std::string KingMoved = "05050403HEEEHEEE1EEEEEEEE0EEHEEEH";   // then the
 }  // namespace
 
 TEST(Cli, EachCommandPrintsItsResultOrRefusesWithItsExitCode) {
-    // Every command prints what it was asked for and exits 0; a command it cannot read exits 2 with the
-    // reason on standard error; a usage error exits 1.
+    // Each command prints its result and exits 0, or exits 2 when it cannot read its input and 1 on misuse.
     TestGame t;
     t.CopyData();
     t.WriteFile("small.txt", Small + "\r\n");

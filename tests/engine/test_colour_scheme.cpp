@@ -17,7 +17,7 @@ std::string Scheme(const std::string& header, const std::string& entry2, const s
 }  // namespace
 
 TEST(ColourScheme, TheListNamesEveryHeaderInFileOrder) {
-    // Every line holding ".col" is a header, listed by the text before its first ".col"; no file, no list.
+    // Every line of "all.col" holding ".col" names a scheme, by the text before its first ".col".
     TestGame t;
     EXPECT_TRUE(FillSchemeList(t.g).empty());
     t.WriteFile("all.col", "xp.col\r\n1;2;3\r\nwood.col\n4;5;6\r\nxp.col backup\r\nnight.colours\r\n");
@@ -25,8 +25,7 @@ TEST(ColourScheme, TheListNamesEveryHeaderInFileOrder) {
 }
 
 TEST(ColourScheme, EntriesThreeAndFiveAreLighterAndDarkerFormsOfTwoAndFour) {
-    // Entry 3 is entry 2 raised by 32 (above 256 becomes 254; 256 counts as 255); entry 5 is entry 4 lowered
-    // by 32 (below 1 becomes 8); the others are red;green;blue, each rounded and held within 0..255.
+    // A scheme's entry 3 is entry 2 lightened by 32 and entry 5 is entry 4 darkened by 32.
     const struct { const char* entry2; const char* entry4; std::int32_t entry3, entry5; } rows[] = {
         {"240;240;240", "20;0;100", 0xFEFEFE, 0x440808},
         {"200;10;0", "0;0;0", 0x202AE8, 0x080808},
@@ -45,8 +44,7 @@ TEST(ColourScheme, EntriesThreeAndFiveAreLighterAndDarkerFormsOfTwoAndFour) {
 }
 
 TEST(ColourScheme, AnUnknownSchemeIsRefusedAndAShortOneKeepsWhatItDidNotReach) {
-    // A scheme whose header is on no line is reported, the colours stay and the scheme becomes "xp.col"; a
-    // file ending inside a scheme gives the entries it holds, silently; every shipped scheme loads.
+    // An unknown scheme is reported and changes no colour; a short one changes only the entries it holds.
     TestGame t;
     Game& g = t.g;
     t.WriteFile("all.col", "xp.col backup\r\nshort.col\r\n1;0;0\r\n2;0;0\r\n3;0;0\r\n");

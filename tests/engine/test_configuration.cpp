@@ -36,10 +36,7 @@ std::string Settings(const Game& g) {
 }  // namespace
 
 TEST(Configuration, AReadableFileIsTakenAndAnyOtherReplacedWithTheDefaults) {
-    // Text fields end at a comma or the line end, without their quotes; a missing layout or picture falls
-    // back to its default. A missing file, fewer than eight lines, text where a number is due or a number
-    // beyond 32 bits counts as unreadable: the defaults are written, keeping the labels, colour mode and
-    // entry 13.
+    // A readable configuration is taken as it reads; any other is replaced, silently, by the defaults.
     const std::string defaults = "xp.col|patf.txt|player00.ico player10.ico home0.ico king0.ico 32768 128 8421504 0 |0|1|0|1|77";
     const struct { const char* why; std::string text; std::string settings; bool rewritten; } rows[] = {
         {"list input", "\"my,scheme.col\"\r\n  pattern2.txt  , more\r\nplayer01.ico\r\n\"player11.ico\", x\r\nhome1.ico\n"
@@ -69,7 +66,7 @@ TEST(Configuration, AReadableFileIsTakenAndAnyOtherReplacedWithTheDefaults) {
 }
 
 TEST(Configuration, AFailedWriteIsReportedAndLeavesThePreviousFile) {
-    // When the configuration cannot be written the player is told and the previous file stays whole.
+    // A configuration that cannot be written is reported and the previous file stays whole.
     TestGame t;
     t.WriteFile("jarlsvakt.cfg", "previous\r\n");
     std::filesystem::create_directory(t.Path("jarlsvakt.cfg.tmp"));

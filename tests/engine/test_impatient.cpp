@@ -106,8 +106,7 @@ bool UserMove(Game& g, int fromCol, int fromRow, int toCol, int toRow) {
 }  // namespace
 
 TEST(ImpatientUser, AResetDuringAMoveLeavesTheNewGameAsLoaded) {
-    // A reset while a move is shown or its capture waits starts the new game from its layout: nothing of the
-    // interrupted move, its capture or the computer's answer to it is made in the new game.
+    // A reset in the middle of a move starts the new game as loaded, with nothing of the interrupted move.
     const struct { const char* move; int at; std::function<void(Game&)> make; } rows[] = {
         {"the computer's attacker, shown", 1, [](Game& g) { MakeAttackerMove(g, 9, 6, 9, 3); }},
         {"the computer's attacker, capturing", 2, [](Game& g) { MakeAttackerMove(g, 9, 6, 9, 3); }},
@@ -127,8 +126,7 @@ TEST(ImpatientUser, AResetDuringAMoveLeavesTheNewGameAsLoaded) {
 }
 
 TEST(ImpatientUser, ASmallerBoardLoadedDuringAMoveKeepsItsKing) {
-    // A 7 by 7 layout loaded while an 11 by 11 King's move waits from the square where the new King stands
-    // does not carry the new King off the board.
+    // A smaller board loaded during a King's move keeps its own King on the board.
     Impatient s;
     s.Load("king.txt", "11110404" "HEEEEEEEEEH" + std::string(22, 'E') + "EEE0EEEEEEE" + std::string(66, 'E') + "HEEEEEEEEEH");
     s.view.FileChoices = {"pattern1.txt"};
@@ -141,8 +139,7 @@ TEST(ImpatientUser, ASmallerBoardLoadedDuringAMoveKeepsItsKing) {
 }
 
 TEST(ImpatientUser, ANewGameBegunWhileTheEndOfTheLastIsAnnouncedStaysOpen) {
-    // The end of a game closes that game's board; a reset clicked while the end's message lets events run
-    // begins a game whose board takes the pointer.
+    // A game begun while the end of the last is announced keeps its board open.
     const struct { const char* end; std::string layout; int at; std::function<void(Game&)> make; } rows[] = {
         {"King Captured !", "11110606" "HEEEEEEEEEH" + std::string(33, 'E') + "EEEEE1EEEEE" "EEEE10EE1EE" "EEEEE1EEEEE" +
                                 std::string(33, 'E') + "HEEEEEEEEEH", 2, [](Game& g) { MakeAttackerMove(g, 6, 9, 6, 7); }},
@@ -162,8 +159,7 @@ TEST(ImpatientUser, ANewGameBegunWhileTheEndOfTheLastIsAnnouncedStaysOpen) {
 }
 
 TEST(ImpatientUser, AnUndoDuringACaptureTakesOnlyPiecesStillSandwiched) {
-    // Taking the move back while its capture waits leaves the position before the move; an earlier Undo entry
-    // in which the King stands where a defender is about to be taken is shown whole: the King is never taken.
+    // An undo during a capture's pause takes only pieces still sandwiched, never the King.
     Impatient s;
     const std::string before = LoadCaptures(s);
     s.g.Check1 = false;
@@ -185,8 +181,7 @@ TEST(ImpatientUser, AnUndoDuringACaptureTakesOnlyPiecesStillSandwiched) {
 }
 
 TEST(ImpatientUser, AMoveWhosePieceWasMovedMeanwhileIsNotMadeAndASecondDropIsAMoveOfItsOwn) {
-    // A second computer move asked for while the first is shown moves first and the first is not made; a
-    // second drop while the user's capture waits is recorded and answered like the first.
+    // A move whose piece has gone meanwhile is not made; a second drop meanwhile is a move of its own.
     Impatient s;
     LoadCaptures(s);
     s.view.At[1] = [&] { MakeAttackerMove(s.g, 9, 6, 9, 8); };
@@ -204,8 +199,7 @@ TEST(ImpatientUser, AMoveWhosePieceWasMovedMeanwhileIsNotMadeAndASecondDropIsAMo
 }
 
 TEST(ImpatientUser, WhileTheComputerMovesTheBoardRefusesADragAndTheButtonsWork) {
-    // During the computer's move the board takes no drag; the ranking asked for again is listed, the editor
-    // switched on edits the position of that moment, and the computer's move is still made.
+    // While the computer moves the board refuses a drag and the buttons still act.
     Impatient s;
     const std::string before = LoadCaptures(s);
     bool dragged = true;
@@ -222,8 +216,7 @@ TEST(ImpatientUser, WhileTheComputerMovesTheBoardRefusesADragAndTheButtonsWork) 
 }
 
 TEST(ImpatientUser, ExitDuringAMoveEndsItAndLeavesEveryFileWhole) {
-    // "Exit?" answered Yes while a capture waits ends the program there: the configuration is written whole,
-    // and neither the rest of the move nor the computer's answer adds to the moves log.
+    // Exit during a move ends the program there and leaves the configuration and the moves log whole.
     Impatient s;
     LoadCaptures(s);
     s.g.Check1 = true;
@@ -243,9 +236,7 @@ TEST(ImpatientUser, ExitDuringAMoveEndsItAndLeavesEveryFileWhole) {
 }
 
 TEST(ImpatientUser, EveryCommandAtEveryPauseOfAMoveAndItsAnswerLeavesASoundGame) {
-    // Whatever command arrives during the user's capture, the computer's answer or its capture, the game
-    // stays sound (frame, corners, King, undo records), and the moves log and the saved layouts hold only
-    // whole layout lines.
+    // Any command at any pause of a move and its answer leaves a sound game and whole layout files.
     using Command = std::function<void(Impatient&)>;
     const std::vector<std::pair<const char*, Command>> commands = {
         {"reset", [](Impatient& s) { ResetCommand(s.g); }}, {"undo", [](Impatient& s) { UndoCommand(s.g); }},
@@ -281,9 +272,7 @@ TEST(ImpatientUser, EveryCommandAtEveryPauseOfAMoveAndItsAnswerLeavesASoundGame)
 }
 
 TEST(ImpatientUser, AutoGameSurvivesEveryCommandUntilTheExit) {
-    // The automatic game lets events run before every move: resets, loads of other boards, undos, the
-    // editor, random moves, a second automatic game and finally the exit arrive while it plays, and it
-    // goes on on whatever board there is until the program ends.
+    // The automatic game plays on through every command until the exit ends the program.
     Impatient s;
     Game& g = s.g;
     s.t.CopyData("patf.txt");

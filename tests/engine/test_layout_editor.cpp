@@ -28,8 +28,7 @@ struct Editing : TestGame {
 }  // namespace
 
 TEST(LayoutEditor, EditsBecomeTheNewGameWhenTheEditorIsSwitchedOff) {
-    // The board stays as it is while the editor is on; switching it off writes "temporarylayout.txt" and
-    // loads it as a new game. The King keeps his row; moved to another row his column becomes 0.
+    // The editor's edits become the new game when it is switched off, the King keeping his row.
     const struct { const char* why; int col, row, code; const char* after; } rows[] = {
         {"no change", 0, 0, 0, "07070404HEE1EEHEEEEEEEEEE0EEE1E00EE1EEEEEEEEEEEEEEHEEEEEH"},
         {"an attacker on B2", 2, 2, AttackerCode, "07070404HEE1EEHE1EEEEEEEE0EEE1E00EE1EEEEEEEEEEEEEEHEEEEEH"},
@@ -50,8 +49,7 @@ TEST(LayoutEditor, EditsBecomeTheNewGameWhenTheEditorIsSwitchedOff) {
 }
 
 TEST(LayoutEditor, CornersAndTheKingsSquareAreNeverPaintedOver) {
-    // Nothing is placed on a Home corner, over the King, off the board, with a code of no piece, or with the
-    // editor off; the King leaving a corner leaves it Home.
+    // The editor never paints over a Home corner or the King, nor off the board or while it is off.
     Editing t;
     Game& g = t.g;
     const struct { int col, row, code; } refused[] = {
@@ -67,8 +65,7 @@ TEST(LayoutEditor, CornersAndTheKingsSquareAreNeverPaintedOver) {
 }
 
 TEST(LayoutEditor, CommandsDoNothingWhileTheEditorIsOn) {
-    // While the editor is on, load, save, reset, undo and recording do nothing: no question, no file dialog,
-    // no file, the position and the undo history as they were.
+    // Load, save, reset, undo and recording do nothing while the editor is on.
     Editing t;
     t.g.Undo = {"0404" + Seven.substr(8)};
     t.view.FileChoices = {"pattern1.txt", "saved.txt", "moves.txt"};
@@ -77,8 +74,7 @@ TEST(LayoutEditor, CommandsDoNothingWhileTheEditorIsOn) {
     RecordingSwitch(t.g, true);
     EXPECT_TRUE(t.view.Calls.empty());
     EXPECT_EQ(LayoutLine(t.g), Seven);
-    EXPECT_EQ(t.g.Undo.size(), 1u);
-    EXPECT_TRUE(t.g.MovesLogFile.empty());
+    EXPECT_TRUE(t.g.Undo.size() == 1 && t.g.MovesLogFile.empty());
 }
 
 TEST(LayoutEditor, AnUnwritableFolderKeepsTheEditorOpen) {

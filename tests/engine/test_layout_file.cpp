@@ -19,8 +19,7 @@ const std::string Opening = "11110606HEE11111EEHEEEEE1EEEEEEEEEEEEEEEE1EEEE0EEEE
 }  // namespace
 
 TEST(LayoutFile, TheFirstLineIsReadOntoAFreshBoardOrTheFileIsRefused) {
-    // The reader takes the first line as width, height, the King's square and one letter per square; a
-    // missing file, a folder, or a board wider or higher than 14 is refused and the board stays as it was.
+    // A layout file's first line is read onto a fresh board; one that cannot be read or is above 14 is refused.
     const struct { const char* why; std::string content; bool fails; std::string after; } rows[] = {
         {"CR LF", Opening + "\r\n", false, Opening},
         {"LF and a second line", Opening + "\nsecond line\n", false, Opening},
@@ -44,7 +43,7 @@ TEST(LayoutFile, TheFirstLineIsReadOntoAFreshBoardOrTheFileIsRefused) {
 }
 
 TEST(LayoutFile, EveryShippedLayoutWritesBackByteForByteAndAFailedWriteKeepsTheOldFile) {
-    // Saving a shipped layout gives the same file; a write that fails leaves the file it would replace whole.
+    // A saved layout is the file it was read from; a write that fails keeps the old file whole.
     for (const char* name : {"patf.txt", "pattern1.txt", "pattern2.txt", "pattern3.txt", "pattern4.txt", "pattern5.txt"}) {
         TestGame t;
         t.CopyData(name);
@@ -62,8 +61,7 @@ TEST(LayoutFile, EveryShippedLayoutWritesBackByteForByteAndAFailedWriteKeepsTheO
 }
 
 TEST(PositionRecord, ARecordChangesOnlyTheSquaresItCovers) {
-    // A record sets the King's square (held within the tables) and the squares it has a letter for; other
-    // characters and squares it does not reach stay, letters past the board are ignored, corners stay Home.
+    // A position record changes the King's square and only the squares it has a letter for.
     const struct { const char* record; const char* after; } rows[] = {
         {"0202E0", "05050202H0EEHE1EEEEE0EEEEEEEHEEEH"},
         {"0303" "1?E0EE", "05050303HEE0HE1EEEEE0EEEEEEEHEEEH"},

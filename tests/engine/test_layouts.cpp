@@ -14,8 +14,7 @@ using jv::test::TestGame;
 using Lines = std::vector<std::string>;
 
 TEST(LoadLayout, AFailedLoadBringsThePreviousLayoutBackOrAnEmptyBoard) {
-    // A load starts a new game named after the file; a layout that cannot be read is reported and the
-    // previous one loaded again; when that fails too, an empty 11x11 board is set up.
+    // A layout that cannot be read is reported and the previous one comes back, or else an empty board.
     TestGame t;
     Game& g = t.g;
     t.CopyData("patf.txt");
@@ -38,9 +37,7 @@ TEST(LoadLayout, AFailedLoadBringsThePreviousLayoutBackOrAnEmptyBoard) {
 }
 
 TEST(LayoutCommands, LoadResetAndSaveAskThenActAndConfirm) {
-    // Load takes the chosen file (a cancelled dialog does nothing); Reset reloads the layout after a Yes; Save
-    // adds ".txt" to a name without a point, asks before replacing a file and keeps the old file when the
-    // write fails.
+    // Load, reset and save ask first, then act and confirm; a save that fails keeps the old file.
     TestGame t;
     Game& g = t.g;
     t.CopyData("patf.txt");

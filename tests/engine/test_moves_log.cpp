@@ -1,8 +1,6 @@
 // The moves log: switching the recording on and off, and replaying a log step by step.
 #include <gtest/gtest.h>
 
-#include <filesystem>
-
 #include "records/Layouts.h"
 #include "records/MovesLog.h"
 #include "records/PositionRecord.h"
@@ -31,13 +29,12 @@ std::string GameInProgress(TestGame& t) {
 }  // namespace
 
 TEST(MovesLog, SwitchingOnNamesTheLogAndSwitchingOffRecordsThePosition) {
-    // Switched on at 9:05 on 14 March the log is moveslogfile03140905.txt; switched off, the position is
-    // recorded once and the name kept.
+    // Recording names the moves log by the clock; switching it off records the position once.
     TestGame t;
     const std::string line = GameInProgress(t);
     t.g.Clock = [] { return ClockReading{3, 14, 9, 5}; };
     RecordingSwitch(t.g, true);
-    EXPECT_FALSE(std::filesystem::exists(t.Path("moveslogfile03140905.txt")));
+    EXPECT_EQ(t.ReadFile("moveslogfile03140905.txt"), "");   // nothing is written before a move
     RecordingSwitch(t.g, false);
     EXPECT_EQ(t.view.Messages(),
               (Lines{"Start recording moves to file:\r\nmoveslogfile03140905.txt [vbinformation+vbok]",
@@ -47,8 +44,7 @@ TEST(MovesLog, SwitchingOnNamesTheLogAndSwitchingOffRecordsThePosition) {
 }
 
 TEST(Replay, EachAnswerToAStepDoesWhatItSays) {
-    // Every line is shown in turn, at the size of the first; No goes on, Yes stops on the shown position with
-    // an empty Undo, Cancel ends at once; after the last step or Cancel the game from before comes back.
+    // A replay shows each line in turn: No goes on, Yes stops there, Cancel brings the game back.
     const std::string log = Line1 + "\r\n" + Line2 + "\r\n" + Line3 + "\r\n";
     const struct { const char* why; std::string log; std::deque<int> answers; std::string after; } rows[] = {
         {"No to every step", log, {7, 7, 7}, ""},
@@ -76,7 +72,7 @@ TEST(Replay, EachAnswerToAStepDoesWhatItSays) {
 }
 
 TEST(Replay, AnEmptyOrUnreadableLogIsReportedAndTheGameStays) {
-    // An empty log and a log that cannot be read are reported; the game stays as it was.
+    // An empty or unreadable moves log is reported and the game stays as it was.
     TestGame t;
     const std::string before = GameInProgress(t);
     t.WriteFile("empty.txt", "");

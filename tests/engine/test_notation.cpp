@@ -27,8 +27,7 @@ std::string Refusal(const std::string& otn) {
 }  // namespace
 
 TEST(Notation, FilesRunAcrossAndRanksUpFromTheLastColumn) {
-    // On a board of 9 Cols and 7 Rows, files a..g run along the Row and rank 1 is Col 9; every square reads
-    // back, and anything that is no square or no move of the board is refused.
+    // Standard squares count files along the Row and ranks up from the last Col, and read back the same.
     TestGame t;
     NewBoard(t.g, 9, 7);
     EXPECT_EQ((std::array{StandardSquare(t.g, 1, 1), StandardSquare(t.g, 9, 7), StandardSquare(t.g, 3, 5)}),
@@ -47,8 +46,7 @@ TEST(Notation, FilesRunAcrossAndRanksUpFromTheLastColumn) {
 }
 
 TEST(Otn, PositionsAreWrittenRankByRankAndReadBack) {
-    // The first rank written is Col 1, one square per Row, runs of empty squares as numbers; each position
-    // comes back from its OTN as the same layout line.
+    // An OpenTafl position is written rank by rank from Col 1 and reads back as the same layout line.
     const struct { const char* layout; const char* otn; } rows[] = {
         {BrandubhLine, BrandubhOtn},
         {"03050202HE1EH00EE1HEEEH", "/2t2/TK2t/5/"},
@@ -68,8 +66,7 @@ TEST(Otn, PositionsAreWrittenRankByRankAndReadBack) {
 }
 
 TEST(Otn, PositionsNoBoardOfTheProgramHoldsAreRefusedWithTheirReason) {
-    // More than 14 ranks or files, ragged or empty ranks, other letters, not exactly one King, or a piece on
-    // a corner are refused, each with its reason in words.
+    // An OpenTafl position no board of the program holds is refused with its reason in words.
     const struct { std::string otn; const char* reason; } rows[] = {
         {"/3/3/3/3/3/3/3/1K1/3/3/3/3/3/3/3/", "the position has 15 ranks, more than 14"},
         {"/15/7K7/15/", "rank 3: more than 14 squares"},
@@ -89,8 +86,7 @@ TEST(Otn, PositionsNoBoardOfTheProgramHoldsAreRefusedWithTheirReason) {
 }
 
 TEST(OtnFiles, AnOtnFileIsLoadedAndSavedLikeALayout) {
-    // An .otn file chosen in the load dialog becomes "otnlayout.txt" and is loaded, or is reported and the
-    // game stays; a save under a name ending in .otn writes the OTN of the board.
+    // An .otn file is loaded and saved like a layout, or reported when it holds no playable position.
     TestGame t;
     Game& g = t.g;
     t.WriteFile("brandubh.otn", std::string(BrandubhOtn) + "\r\n");

@@ -78,8 +78,7 @@ void ExpectCountersAgree(Game& g, int maxDepth, int side) {
 }  // namespace
 
 TEST(Perft, ShippedLayoutsCountAsPinnedAndAsTheSlowCounter) {
-    // The counts of the shipped layouts are fixed; the program's own procedures, move by move on copies,
-    // give the same numbers (to the depth given as slow, for time).
+    // The move counts of the shipped layouts are as pinned and as playing every move gives them.
     const struct { const char* layout; int side; std::uint64_t counts[3]; int slow; } rows[] = {
         {"patf.txt", DefenderCode, {60, 6900, 440056}, 3},
         {"patf.txt", AttackerCode, {116, 6788, 806344}, 2},
@@ -97,8 +96,7 @@ TEST(Perft, ShippedLayoutsCountAsPinnedAndAsTheSlowCounter) {
 }
 
 TEST(Perft, CapturesTheKingsCaptureAndHisWayHomeAgreeWithTheGame) {
-    // Crowded positions with sandwiches for both sides, the King beside a corner or between two attackers on
-    // the edge: both counters agree to depth 3 from either side.
+    // With captures and the King's capture about, the move counts agree with playing every move.
     for (const char* layout : {"07070201HE1EEEH0EEE1EE1E0E0EEE0EE1EEEE1EEE0E1EE0EEHEE1EEH",
                                "07070401HEEEEEHEEEEEEE1EEEEEE0EEEEEE1EEEEEEE1EEEEEHEEEEEH"}) {
         TestGame t;
@@ -109,9 +107,7 @@ TEST(Perft, CapturesTheKingsCaptureAndHisWayHomeAgreeWithTheGame) {
 }
 
 TEST(Perft, TheKingAtHomeOrTakenEndsTheLine) {
-    // The King's move Home counts as a move but nothing follows it; so does the attacker move that takes him.
-    // On 5 by 5 the King on A3 has eight moves, two of them Home; the attacker on C5 then has five replies,
-    // three when the King blocks its line on the centre.
+    // The King's move Home and the attacker move that takes him end the line: nothing follows them.
     TestGame t;
     Game& g = t.g;
     ASSERT_FALSE(ApplyLayoutLine(g, "05050103HE0EHEEEEEEEEE1EEEEEHEEEH"));

@@ -1,6 +1,8 @@
 // The user's drag and drop: which pieces may be picked up, where they may go, and what a drop does.
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "core/Pointer.h"
 #include "core/Session.h"
 #include "records/LayoutFile.h"
@@ -23,9 +25,7 @@ std::string Joined(const std::vector<std::string>& lines) {
 }  // namespace
 
 TEST(Pointer, OnlyDefendersAndTheKingMoveAndOnlyToTheSquaresTheyCanReach) {
-    // A drag starts on a defender or the King, never on an attacker, an empty square, a corner or off the
-    // board; the piece may be dropped on the empty squares of its free straight lines, the King also on the
-    // centre and on a Home corner that ends one of them.
+    // The user moves defenders and the King only, and only to the empty squares of their free lines.
     const struct { const char* why; int fromCol, fromRow, toCol, toRow; bool accepted; } rows[] = {
         {"up its column", 4, 2, 4, 1, true},   {"along its row", 4, 2, 7, 2, true},
         {"down its column", 4, 2, 4, 7, true}, {"onto an attacker", 4, 2, 2, 2, false},
@@ -44,9 +44,7 @@ TEST(Pointer, OnlyDefendersAndTheKingMoveAndOnlyToTheSquaresTheyCanReach) {
 }
 
 TEST(Pointer, ADropMovesRecordsAndCapturesOrChangesNothing) {
-    // An accepted drop is recorded for undo, logged and captures; a defender on the centre and a refused drop
-    // change nothing; the King reaching Home wins at once, neither recorded nor logged.
-    // The King on A4; defenders on G3, G4 and E1; an attacker on E2.
+    // An accepted drop is recorded, logged and captures; a refused one changes nothing; the King Home wins.
     const char* const layout = "07070104HEE0EEHEEEEEEEEEEEEEEEEEEEEE01EEEEEEEEEEEEHE00EEH";
     const struct { const char* why; int fromCol, fromRow, toCol, toRow; const char* log; std::size_t undo; } rows[] = {
         {"a capture", 7, 3, 5, 3, "  Player1 Move G3 > E3|  Player 1 captures E2", 1},
@@ -69,16 +67,13 @@ TEST(Pointer, ADropMovesRecordsAndCapturesOrChangesNothing) {
 }
 
 TEST(Pointer, DropsFollowTheBoardEvenWhenTheTablesAreStale) {
-    // A computer player's trial can leave the analysis of another position behind; the pointer walks the
-    // board as it stands, so a piece never jumps over another.
+    // The pointer walks the board as it stands, whatever analysis a computer player's trial left behind.
     TestGame t;
     Game& g = t.g;
     ASSERT_FALSE(ApplyLayoutLine(g, "07070404HEEEEEHE0EEEEEEEEEEEEEEE0EEEEEEEEEEEEEEEEEHEEEEEH"));
     g.Board(2, 4) = AttackerCode;   // placed after the analysis: the lists still show (2,4) free
     ASSERT_NE(g.MoveTargets(2, 2).find("0205,"), std::string::npos);
     ASSERT_TRUE(BeginDrag(g, 2, 2));
-    EXPECT_TRUE(AcceptsDrop(g, 2, 3));
-    EXPECT_FALSE(AcceptsDrop(g, 2, 4));
-    EXPECT_FALSE(AcceptsDrop(g, 2, 5));
+    EXPECT_EQ(std::tuple(AcceptsDrop(g, 2, 3), AcceptsDrop(g, 2, 4), AcceptsDrop(g, 2, 5)), std::tuple(true, false, false));
     EXPECT_EQ(PieceTargets(g, 2, 2), "0102,0302,0402,0502,0602,0702,0201,0203,");
 }

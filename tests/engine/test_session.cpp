@@ -9,7 +9,7 @@ using jv::test::TestGame;
 using Calls = std::vector<std::string>;
 
 TEST(StartUp, WithoutAllColTheProgramSaysSoAndEnds) {
-    // Without "all.col" the program shows why and ends before anything else is read or loaded.
+    // Without "all.col" the program says so and ends before anything else is read or loaded.
     TestGame t;
     EXPECT_FALSE(StartUp(t.g));
     EXPECT_EQ(t.view.Calls, (Calls{"Show File: all.col is missing\r\nProgram cannot run without this file [vbok+vbcritical]",
@@ -18,8 +18,7 @@ TEST(StartUp, WithoutAllColTheProgramSaysSoAndEnds) {
 }
 
 TEST(StartUp, ReadsTheSettingsThenLoadsTheConfiguredLayout) {
-    // Start-up reads the configuration, lets the window apply it, loads the layout it names and logs that
-    // Player1, the defenders, move first.
+    // Start-up applies the configuration, then loads the layout it names and says Player1 moves first.
     TestGame t;
     t.CopyData();
     t.WriteFile("jarlsvakt.cfg", "xp.col\r\npattern1.txt\r\nplayer00.ico\r\nplayer10.ico\r\nhome0.ico\r\nking0.ico\r\n"
@@ -32,7 +31,7 @@ TEST(StartUp, ReadsTheSettingsThenLoadsTheConfiguredLayout) {
 }
 
 TEST(ExitCommand, OnlyYesWritesTheConfigurationAndEnds) {
-    // "Exit?" answered No leaves everything as it was; Yes writes the configuration and ends the program.
+    // "Exit?" answered Yes writes the configuration and ends the program; No leaves everything as it was.
     TestGame t;
     t.WriteFile("jarlsvakt.cfg", "as it was");
     t.view.Answers = {7, 6};

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "ai/AttackerPlan.h"
+#include "ai/AttackerRank.h"
 #include "ai/AttackerTactics.h"
 #include "ai/DefenderRank.h"
 #include "ai/KingRoutes.h"
@@ -18,7 +19,7 @@ using jv::test::TestGame;
 using Lines = std::vector<std::string>;
 
 TEST(AttackerTactics, EachRuleNamesItsSquaresInItsOrder) {
-    // Every attackers' rule adds its lines, value first, in the order the rule examines the board.
+    // Each attackers' rule adds its lines, value first, in the order it examines the board.
     struct Row { const char* rule; void (*tactic)(Game&); const char* layout; Lines lines; };
     const Lines around(4, "0200 0404 all U around King, take x-empty spaces");
     const Row rows[] = {
@@ -77,7 +78,7 @@ TEST(AttackerTactics, EachRuleNamesItsSquaresInItsOrder) {
 }
 
 TEST(DefenderRank, TheRulesComeFirstAndTheBestCandidateHeadsTheList) {
-    // The defenders' rules add their lines in order; List1D starts with the best-scored move.
+    // The defenders' rules add their lines in order and List1D starts with the best-scored move.
     struct Row { const char* rule; const char* layout; Lines lines; const char* best; };
     const Row rows[] = {
         {"a free run", "07070104HEE0EEHEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEHEEEEEH",
@@ -102,9 +103,23 @@ TEST(DefenderRank, TheRulesComeFirstAndTheBestCandidateHeadsTheList) {
     }
 }
 
+TEST(RankOfGreen, TheDefendersScoreWeighsTheKingsWayHomeAndAttackersBesideACorner) {
+    // The defenders' score adds 9999 for a free run, 1000 for home in two, 100 per edge square the King reaches,
+    // 1000 and 8000 for an attacker they can take beside a corner and 50 per line they hold round one.
+    const struct { const char* layout; int score; } rows[] = {
+        {"07070505H1EEE1HEEE1EEEEEEEEEEEE0E0EEEEE000EEEEE0EEHEEEEEH", 1000 + 8000 + 8000 + 50},
+        {"07070204HEEEEEHEEE0EEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEHEEEEEH", 1000 + 4 * 100},
+        {"07070104HEE0EEHEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEHEEEEEH", 9999 + 5 * 100},
+    };
+    for (const auto& r : rows) {
+        TestGame t;
+        ASSERT_FALSE(ApplyLayoutLine(t.g, r.layout));
+        EXPECT_EQ(RankOfGreen(t.g), r.score) << r.layout;
+    }
+}
+
 TEST(KingRoutes, TheKingsWaysHomeAreListedFromHimOutward) {
-    // A run along the edge lists the free squares towards each free corner; home in two lists the slides
-    // that end beside a corner; the status is 99 direct, 1 in two moves, 2 from a square he reaches, -1 none.
+    // The King's ways home are listed from him outward: 99 a free run, 1 in two moves, 2 from a square he reaches.
     using Route = std::function<int(Game&, std::string&)>;
     struct Row { const char* rule; Route find; const char* layout; int status; const char* route; };
     const Row rows[] = {
