@@ -1,117 +1,65 @@
+// The capture rules: the sandwich of an ordinary piece, and the King taken by four or by three against the edge.
 #include <gtest/gtest.h>
 
 #include "core/Move.h"
+#include "records/LayoutFile.h"
 #include "support/Fixtures.h"
 
 using namespace jv;
-using jv::test::PlacePieces;
 using jv::test::TestGame;
-using Calls = std::vector<std::string>;
 
 namespace {
-// The calls one capture makes: the mark, a second's pause, the log line and the repaint.
-Calls Capture(const std::string& square, int col, int row, int player) {
-    const std::string n = std::to_string(player);
-    const std::string at = std::to_string(col) + " " + std::to_string(row);
-    return {"MarkVictim " + at, "Pause 1000", "PrintLine |  Player " + n + " captures " + square + "| " + n + " 0",
-            "DrawSquare " + at + " 0"};
-}
-
-Calls Joined(std::initializer_list<Calls> parts) {
-    Calls all;
-    for (const Calls& part : parts) all.insert(all.end(), part.begin(), part.end());
-    return all;
+// The squares the captures of the game's log name, in order, blank-separated.
+std::string Captured(const Game& g) {
+    std::string names;
+    for (const std::string& line : g.EventLog)
+        if (const auto at = line.find("captures "); at != std::string::npos) names += " " + line.substr(at + 9);
+    return names.empty() ? names : names.substr(1);
 }
 }  // namespace
 
-TEST(CaptureAround, TakesEverySandwichedEnemyOneSecondApartInTheFixedOrder) {
-    // Victims are taken in the order (col, row-1), (col, row+1), (col+1, row), (col-1, row), each after a
-    // one-second pause with its own log line.
-    TestGame t;
-    Game& g = t.g;
-    PlacePieces(g, 11, 11, {".", ".", "....a", "....d", "..adada", "....d", "....a", ".", ".", "K"});
-    t.view.Clear();
-    CaptureAround(g, 5, 5);
-    EXPECT_EQ(t.view.Calls, Joined({{"HideDragLine"}, Capture("E4", 5, 4, 2), Capture("E6", 5, 6, 2),
-                                    Capture("F5", 6, 5, 2), Capture("D5", 4, 5, 2)}));
-    for (const auto& [col, row] : {std::pair{5, 4}, {5, 6}, {6, 5}, {4, 5}}) EXPECT_EQ(g.Board(col, row), EmptyCode);
-    EXPECT_EQ(g.Board(5, 3), AttackerCode);
-    EXPECT_EQ(g.Board(3, 5), AttackerCode);
+TEST(CaptureAround, TakesWhatTheMovedPieceSandwiches) {
+    // A moved piece takes each enemy it sandwiches against its own side or a Home corner, never the King.
+    struct Row { const char* rule; const char* layout; int col, row; const char* captured; };
+    const Row rows[] = {
+        {"all four sides", "07070606HE1EEEHEE0EEEE10101EEEE0EEEEEE1EEEEEEEEE0EHEEEEEH", 3, 3, "C2 C4 D3 B3"},
+        {"a defender, the King beyond", "07070204HEEEEEHE010EEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEHEEEEEH", 2, 2, "B3"},
+        {"only the moving piece takes", "07070606HEEEEEHEE0EEEEEE1EEEEEE0EEEEEEEEEEEEEEEE0EHEEEEEH", 3, 3, ""},
+        {"a corner helps the attacker", "07070606H01EEEHEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEE0EHEEEEEH", 1, 3, "A2"},
+        {"a corner helps the defender", "07070606HEEEEEH1EEEEEE0EEEEEEEEEEEEEEEEEEEEEEEEE0EHEEEEEH", 3, 1, "B1"},
+        {"the empty centre does not", "07070606HEEEEEHEEEEEEEEEEEEEEE10EEEEEEEEEEEEEEEE0EHEEEEEH", 4, 2, ""},
+        {"the frame does not", "07070606HEE0EEHEEE1EEEEEEEEEEEEEEEEEEEEEEEEEEEEE0EHEEEEEH", 2, 4, ""},
+        {"never the King by two", "07070304HEEEEEHEEEEEEEEE101EEEEEEEEEEEEEEEEEEEEEEEHEEEEEH", 3, 3, ""},
+        {"the King stops the search", "07070304HE1EEEHEE0EEEE10101EEEEEEEEEEEEEEEEEEEEEEEHEEEEEH", 3, 3, "C2"},
+    };
+    for (const Row& r : rows) {
+        TestGame t;
+        ASSERT_FALSE(ApplyLayoutLine(t.g, r.layout)) << r.rule;
+        CaptureAround(t.g, r.col, r.row);
+        EXPECT_EQ(Captured(t.g), r.captured) << r.rule;
+    }
 }
 
-TEST(CaptureAround, OnlyTheMovingPieceCapturesAndBothSidesCaptureAlike) {
-    // An attacker standing between two defenders is not taken; a defender takes an attacker against
-    // another defender; the King takes like a defender and serves as the far piece.
-    TestGame t;
-    Game& g = t.g;
-    PlacePieces(g, 11, 11, {".", "...d", "...a", "...d", ".", ".", "...Kad"});
-    t.view.Clear();
-    CaptureAround(g, 3, 4);   // the attacker between the two defenders
-    EXPECT_EQ(t.view.Calls, Calls{"HideDragLine"});
-    EXPECT_EQ(g.Board(3, 4), AttackerCode);
-
-    t.view.Clear();
-    CaptureAround(g, 2, 4);   // the defender above it
-    EXPECT_EQ(t.view.Calls, Joined({{"HideDragLine"}, Capture("C4", 3, 4, 1)}));
-
-    t.view.Clear();
-    CaptureAround(g, 7, 6);   // a defender, with the King beyond the attacker
-    EXPECT_EQ(t.view.Calls, Joined({{"HideDragLine"}, Capture("G5", 7, 5, 1)}));
-
-    g.Board(7, 5) = AttackerCode;
-    t.view.Clear();
-    CaptureAround(g, 7, 4);   // the King, with a defender beyond the attacker
-    EXPECT_EQ(t.view.Calls, Joined({{"HideDragLine"}, Capture("G5", 7, 5, 1)}));
-}
-
-TEST(CaptureAround, AHomeCornerIsTheFarPieceOfEitherSideButTheFrameAndCentreNeverAre) {
-    // A defender on B1 next to the corner A1 is taken by an attacker arriving on C1; an attacker on A2 by a
-    // defender arriving on A3. The frame beyond the edge and the empty centre complete no sandwich.
-    TestGame t;
-    Game& g = t.g;
-    PlacePieces(g, 11, 11, {".a.", "d", "a", ".", "d", "....d", ".", ".", ".", "K"});
-    t.view.Clear();
-    CaptureAround(g, 3, 1);
-    EXPECT_EQ(t.view.Calls, Joined({{"HideDragLine"}, Capture("B1", 2, 1, 2)}));
-
-    g.Board(1, 3) = DefenderCode;
-    t.view.Clear();
-    CaptureAround(g, 1, 3);
-    EXPECT_EQ(t.view.Calls, Joined({{"HideDragLine"}, Capture("A2", 1, 2, 1)}));
-    EXPECT_EQ(g.Board(1, 1), HomeCode);
-    EXPECT_EQ(g.Board(11, 11), HomeCode);
-
-    // E1 against the frame, and F5 against the empty centre F6: nothing is taken.
-    g.Board(5, 2) = AttackerCode;
-    t.view.Clear();
-    CaptureAround(g, 5, 2);
-    g.Board(6, 4) = AttackerCode;
-    CaptureAround(g, 6, 4);
-    EXPECT_EQ(t.view.Calls, (Calls{"HideDragLine", "HideDragLine"}));
-    EXPECT_EQ(g.Board(5, 1), DefenderCode);
-    EXPECT_EQ(g.Board(6, 5), DefenderCode);
-}
-
-TEST(CaptureAround, TheKingIsNeverTakenByTwoAndStopsTheSearch) {
-    // A King sandwiched by the move stops the captures: a defender sandwiched in a later direction stays,
-    // while one in an earlier direction has already gone.
-    TestGame t;
-    Game& g = t.g;
-    // The attacker arrives on E5: the King on E4 (col, row-1) and a defender on E6 (col, row+1) are both
-    // sandwiched; neither is taken.
-    PlacePieces(g, 11, 11, {".", ".", ".", ".", "..aKada"});
-    t.view.Clear();
-    CaptureAround(g, 5, 5);
-    EXPECT_EQ(t.view.Calls, Calls{"HideDragLine"});
-    EXPECT_EQ(g.Board(5, 6), DefenderCode);
-    EXPECT_EQ(g.Board(5, 4), DefenderCode);
-
-    // Here the defender on E4 comes first, then the King on F5 stops the search before D5.
-    PlacePieces(g, 11, 11, {".", ".", "....a", "....d", "..ada", "....K", "....a"});
-    t.view.Clear();
-    CaptureAround(g, 5, 5);
-    EXPECT_EQ(t.view.Calls, Joined({{"HideDragLine"}, Capture("E4", 5, 4, 2)}));
-    EXPECT_EQ(g.Board(4, 5), DefenderCode);
-    EXPECT_EQ(g.Board(6, 5), DefenderCode);
-    EXPECT_EQ(g.EventLog, std::vector<std::string>{"  Player 2 captures E4"});
+TEST(CheckKingCapture, FourAttackersOrThreeAgainstTheEdge) {
+    // The King is taken by four attackers, or by three against the edge, a Home corner counting as one.
+    struct Row { const char* rule; const char* layout; bool taken; };
+    const Row rows[] = {
+        {"four in the open", "07070303HEEEEEHEE1EEEEE101EEEEE1EEEEEEEEEEEEEEEEEEHEEEEEH", true},
+        {"three in the open", "07070303HEEEEEHEE1EEEEE10EEEEEE1EEEEEEEEEEEEEEEEEEHEEEEEH", false},
+        {"three against the first column", "07070103H101EEHEE1EEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEHEEEEEH", true},
+        {"three against the last column", "07070703HEEEEEHEEEEEEEEEEEEEEEEEEEEEEEEEEEEEE1EEEEH101EEH", true},
+        {"three against the first row", "07070301HEEEEEH1EEEEEE01EEEEE1EEEEEEEEEEEEEEEEEEEEHEEEEEH", true},
+        {"three against the last row", "07070307HEEEEEHEEEEEE1EEEEE10EEEEEE1EEEEEEEEEEEEEEHEEEEEH", true},
+        {"three on the second row", "07070302HEEEEEHE1EEEEEE01EEEEE1EEEEEEEEEEEEEEEEEEEHEEEEEH", false},
+        {"two against the edge", "07070703HEEEEEHEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEH101EEH", false},
+        {"a corner and two", "07070102H01EEEHE1EEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEHEEEEEH", true},
+        {"the centre and three", "07070304HEEEEEHEEE1EEEEE101EEEEEEEEEEEEEEEEEEEEEEEHEEEEEH", false},
+        {"the King off the board", "07070004HEE1EEHEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEHEEEEEH", false},
+    };
+    for (const Row& r : rows) {
+        TestGame t;
+        ASSERT_FALSE(ApplyLayoutLine(t.g, r.layout)) << r.rule;
+        EXPECT_EQ(CheckKingCapture(t.g), r.taken) << r.rule;
+        EXPECT_EQ(t.g.Board(1, 1), HomeCode) << r.rule;   // a corner standing in for an attacker is Home again
+    }
 }

@@ -1,3 +1,4 @@
+// The layout editor: edits go to its grid and become the new game when it is switched off.
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -13,193 +14,76 @@ using namespace jv;
 using jv::test::TestGame;
 
 namespace {
-
-// A 7x7 game loaded from a file: the King on D4 among two defenders, three
-// attackers.
-//   col A: H . . a . . H
-//   col B: . . . . . . .
-//   col C: . . . d . . .
-//   col D: a . d K . . a
-//   col E: . . . . . . .
-//   col F: . . . . . . .
-//   col G: H . . . . . H
+// A 7x7 game loaded from a file: the King on D4, defenders on C4 and D3, attackers on A4, D1 and D7.
 const std::string Seven = "07070404HEE1EEHEEEEEEEEEE0EEE1E00EE1EEEEEEEEEEEEEEHEEEEEH";
 
 struct Editing : TestGame {
     Editing() {
         WriteFile("seven.txt", Seven + "\r\n");
         LoadLayout(g, "seven.txt");
+        SwitchEditorOn(g);
         view.Clear();
     }
 };
-
 }  // namespace
 
-TEST(LayoutEditor, OnAndOffWithoutAChangeKeepsThePositionAndTheKing) {
-    // Switching the editor on and off without a change reloads the same position from
-    // "temporarylayout.txt", with the King where he was, as a new game.
-    Editing t;
-    Game& g = t.g;
-    ASSERT_EQ(LayoutLine(g), Seven);
-    g.Undo = {"an old record"};
-
-    EditorCommand(g);
-    EXPECT_TRUE(g.EditorOn);
-    EXPECT_TRUE(t.view.EditorVisible);
-    EXPECT_EQ(g.EditorGrid(4, 4), EditorKingCode);
-    EXPECT_EQ(g.EditorGrid(1, 1), HomeCode);
-    EXPECT_EQ(g.EditorGrid(1, 4), AttackerCode);
-    EXPECT_EQ(g.EditorGrid(3, 4), DefenderCode);
-    EXPECT_EQ(g.EditorGrid(2, 2), EmptyCode);
-
-    EditorCommand(g);
-    EXPECT_FALSE(g.EditorOn);
-    EXPECT_FALSE(t.view.EditorVisible);
-    EXPECT_EQ(t.ReadFile("temporarylayout.txt"), Seven + "\r\n");
-    EXPECT_EQ(LayoutLine(g), Seven);
-    EXPECT_EQ(g.KingCol, 4);
-    EXPECT_EQ(g.KingRow, 4);
-    EXPECT_EQ(g.LayoutFile, t.Path("temporarylayout.txt"));
-    EXPECT_EQ(t.view.LayoutCaption, "temporarylayout.txt");
-    EXPECT_TRUE(g.Undo.empty());
-    EXPECT_EQ(g.EventLog.front(), "Loaded Layout: " + t.Path("temporarylayout.txt"));
+TEST(LayoutEditor, EditsBecomeTheNewGameWhenTheEditorIsSwitchedOff) {
+    // The editor's edits become the new game when it is switched off, the King keeping his row.
+    const struct { const char* why; int col, row, code; const char* after; } rows[] = {
+        {"no change", 0, 0, 0, "07070404HEE1EEHEEEEEEEEEE0EEE1E00EE1EEEEEEEEEEEEEEHEEEEEH"},
+        {"an attacker on B2", 2, 2, AttackerCode, "07070404HEE1EEHE1EEEEEEEE0EEE1E00EE1EEEEEEEEEEEEEEHEEEEEH"},
+        {"C4 emptied", 3, 4, EmptyCode, "07070404HEE1EEHEEEEEEEEEEEEEE1E00EE1EEEEEEEEEEEEEEHEEEEEH"},
+        {"the King along his row", 6, 4, EditorKingCode, "07070604HEE1EEHEEEEEEEEEE0EEE1E0EEE1EEEEEEEEEE0EEEHEEEEEH"},
+        {"the King to another row", 4, 6, EditorKingCode, "07070004HEE1EEHEEEEEEEEEE0EEE1E0EE01EEEEEEEEEEEEEEHEEEEEH"},
+    };
+    for (const auto& r : rows) {
+        Editing t;
+        if (r.col) ASSERT_TRUE(PlaceInEditor(t.g, r.col, r.row, r.code)) << r.why;
+        EXPECT_EQ(LayoutLine(t.g), Seven) << r.why;
+        t.g.Undo = {"an old record"};
+        EditorCommand(t.g);
+        EXPECT_EQ(LayoutLine(t.g), r.after) << r.why;
+        EXPECT_EQ(t.g.LayoutFile, t.Path("temporarylayout.txt")) << r.why;
+        EXPECT_TRUE(t.g.Undo.empty()) << r.why;
+    }
 }
 
-TEST(LayoutEditor, TheBoardStaysAsItIsUntilTheEditorIsSwitchedOff) {
-    // Edits go to the editor grid; the board changes only when the editor is switched off.
+TEST(LayoutEditor, CornersAndTheKingsSquareAreNeverPaintedOver) {
+    // The editor never paints over a Home corner or the King, nor off the board or while it is off.
     Editing t;
     Game& g = t.g;
-    SwitchEditorOn(g);
-    EXPECT_TRUE(PlaceInEditor(g, 2, 2, AttackerCode));
-    EXPECT_TRUE(PlaceInEditor(g, 3, 4, EmptyCode));
-    EXPECT_TRUE(PlaceInEditor(g, 5, 4, DefenderCode));
-    EXPECT_EQ(LayoutLine(g), Seven);
-
-    Game shown;
-    EditorPosition(g, shown);
-    EXPECT_EQ(shown.Board(2, 2), AttackerCode);
-    EXPECT_EQ(shown.Board(3, 4), EmptyCode);
-    EXPECT_EQ(shown.Board(4, 4), DefenderCode);
-    EXPECT_EQ(shown.KingCol, 4);
-    EXPECT_EQ(shown.KingRow, 4);
-
-    SwitchEditorOff(g);
-    EXPECT_EQ(g.Board(2, 2), AttackerCode);
-    EXPECT_EQ(g.Board(3, 4), EmptyCode);
-    EXPECT_EQ(g.Board(5, 4), DefenderCode);
-    EXPECT_EQ(g.AttackerCount, 4);
-    EXPECT_EQ(g.DefenderCount, 2);
-}
-
-TEST(LayoutEditor, WhatMayBePlacedWhere) {
-    // The Home corners and the King's square are never painted over; placing the King moves the one
-    // King; a King leaving a corner leaves it Home; nothing is placed off the board or with the editor off.
-    Editing t;
-    Game& g = t.g;
-    EXPECT_FALSE(PlaceInEditor(g, 2, 2, AttackerCode));   // the editor is off
-    SwitchEditorOn(g);
-    EXPECT_FALSE(PlaceInEditor(g, 1, 1, AttackerCode));
-    EXPECT_FALSE(PlaceInEditor(g, 7, 7, EditorKingCode));
-    EXPECT_FALSE(PlaceInEditor(g, 4, 4, EmptyCode));
-    EXPECT_FALSE(PlaceInEditor(g, 4, 4, AttackerCode));
-    EXPECT_FALSE(PlaceInEditor(g, 0, 3, AttackerCode));
-    EXPECT_FALSE(PlaceInEditor(g, 8, 3, AttackerCode));
-    EXPECT_FALSE(PlaceInEditor(g, 2, 2, HomeCode));
-    EXPECT_FALSE(PlaceInEditor(g, 2, 2, 5));
-    EXPECT_FALSE(PlaceInEditor(g, 2, 2, EmptyCode));   // already empty: nothing changes
-    EXPECT_EQ(g.EditorGrid(1, 1), HomeCode);
-    EXPECT_EQ(g.EditorGrid(4, 4), EditorKingCode);
-
-    EXPECT_TRUE(PlaceInEditor(g, 4, 6, EditorKingCode));
-    EXPECT_EQ(g.EditorGrid(4, 6), EditorKingCode);
-    EXPECT_EQ(g.EditorGrid(4, 4), EmptyCode);
-
-    // The King on a corner (a finished game's position) leaves Home behind him.
-    g.EditorGrid(4, 6) = EmptyCode;
+    const struct { int col, row, code; } refused[] = {
+        {1, 1, AttackerCode}, {7, 7, EditorKingCode}, {4, 4, EmptyCode}, {4, 4, AttackerCode},
+        {0, 3, AttackerCode}, {8, 3, AttackerCode}, {2, 2, HomeCode}, {2, 2, 5}, {2, 2, EmptyCode}};
+    for (const auto& r : refused) EXPECT_FALSE(PlaceInEditor(g, r.col, r.row, r.code)) << r.col << "," << r.row;
+    g.EditorGrid(4, 4) = EmptyCode;
     g.EditorGrid(7, 1) = EditorKingCode;
     EXPECT_TRUE(PlaceInEditor(g, 6, 1, EditorKingCode));
     EXPECT_EQ(g.EditorGrid(7, 1), HomeCode);
-    EXPECT_EQ(g.EditorGrid(6, 1), EditorKingCode);
-}
-
-TEST(LayoutEditor, AKingMovedToAnotherRowIsLeftWithColumnZero) {
-    // The King's row is kept; his column is the edited King's column only when that lies on his old
-    // row, otherwise 0: moved to another row he is off the board and his square holds a defender.
-    {
-        Editing t;
-        Game& g = t.g;
-        SwitchEditorOn(g);
-        ASSERT_TRUE(PlaceInEditor(g, 6, 4, EditorKingCode));   // F4: same row
-        SwitchEditorOff(g);
-        EXPECT_EQ(g.KingCol, 6);
-        EXPECT_EQ(g.KingRow, 4);
-        EXPECT_EQ(g.Board(6, 4), DefenderCode);
-        EXPECT_EQ(g.Board(4, 4), EmptyCode);
-        EXPECT_EQ(t.ReadFile("temporarylayout.txt").substr(0, 8), "07070604");
-    }
-    {
-        Editing t;
-        Game& g = t.g;
-        SwitchEditorOn(g);
-        ASSERT_TRUE(PlaceInEditor(g, 4, 6, EditorKingCode));   // D6: another row
-        SwitchEditorOff(g);
-        EXPECT_FALSE(g.EditorOn);
-        EXPECT_EQ(g.KingCol, 0);
-        EXPECT_EQ(g.KingRow, 4);
-        EXPECT_EQ(g.Board(4, 6), DefenderCode);
-        EXPECT_EQ(g.Board(4, 4), EmptyCode);
-        EXPECT_EQ(t.ReadFile("temporarylayout.txt").substr(0, 8), "07070004");
-    }
+    SwitchEditorOff(g);
+    EXPECT_FALSE(PlaceInEditor(g, 2, 2, AttackerCode));
 }
 
 TEST(LayoutEditor, CommandsDoNothingWhileTheEditorIsOn) {
-    // While the editor is on, load, save, reset, undo and recording do nothing: no question, no file
-    // dialog, no file, the position and the undo history as they were.
+    // Load, save, reset, undo and recording do nothing while the editor is on.
     Editing t;
-    Game& g = t.g;
-    g.Undo = {"0404" + Seven.substr(8)};
-    SwitchEditorOn(g);
-    t.view.Clear();
+    t.g.Undo = {"0404" + Seven.substr(8)};
     t.view.FileChoices = {"pattern1.txt", "saved.txt", "moves.txt"};
     t.view.Answers = {6, 6, 6};
-    LoadCommand(g);
-    SaveCommand(g);
-    ResetCommand(g);
-    UndoCommand(g);
-    RecordingSwitch(g, true);
+    for (void (*command)(Game&) : {LoadCommand, SaveCommand, ResetCommand, UndoCommand}) command(t.g);
+    RecordingSwitch(t.g, true);
     EXPECT_TRUE(t.view.Calls.empty());
-    EXPECT_EQ(t.view.FileChoices.size(), 3u);
-    EXPECT_FALSE(std::filesystem::exists(t.Path("saved.txt")));
-    EXPECT_EQ(LayoutLine(g), Seven);
-    EXPECT_EQ(g.Undo.size(), 1u);
-    EXPECT_TRUE(g.MovesLogFile.empty());
-    EXPECT_TRUE(g.EditorOn);
+    EXPECT_EQ(LayoutLine(t.g), Seven);
+    EXPECT_TRUE(t.g.Undo.size() == 1 && t.g.MovesLogFile.empty());
 }
 
 TEST(LayoutEditor, AnUnwritableFolderKeepsTheEditorOpen) {
     // When "temporarylayout.txt" cannot be written the player is told and the editor stays on.
     Editing t;
-    Game& g = t.g;
-    SwitchEditorOn(g);
-    ASSERT_TRUE(PlaceInEditor(g, 2, 2, AttackerCode));
     std::filesystem::create_directory(t.Path("temporarylayout.txt.tmp"));
-    t.view.Clear();
-    SwitchEditorOff(g);
-    EXPECT_EQ(t.view.Messages(),
-              std::vector<std::string>{"Layout File:\r\n" + t.Path("temporarylayout.txt") +
-                                       "\r\ncould not be written, the editor stays open [vbcritical+vbok]"});
-    EXPECT_TRUE(g.EditorOn);
-    EXPECT_TRUE(t.view.EditorVisible);
-    EXPECT_EQ(g.LayoutFile, "seven.txt");
-}
-
-TEST(LayoutEditor, AFinishedGameCanBeEdited) {
-    // Switching the editor on opens the board to the pointer again, and repaints it.
-    Editing t;
-    Game& g = t.g;
-    g.BoardEnabled = false;
-    t.view.BoardEnabled = false;
-    SwitchEditorOn(g);
-    EXPECT_TRUE(t.view.BoardEnabled);
-    EXPECT_EQ(t.view.Calls.back(), "DrawBoard");
+    SwitchEditorOff(t.g);
+    EXPECT_EQ(t.view.Messages(), std::vector<std::string>{"Layout File:\r\n" + t.Path("temporarylayout.txt") +
+                                                          "\r\ncould not be written, the editor stays open [vbcritical+vbok]"});
+    EXPECT_TRUE(t.g.EditorOn);
+    EXPECT_EQ(t.g.LayoutFile, "seven.txt");
 }

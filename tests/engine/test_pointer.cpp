@@ -1,150 +1,79 @@
+// The user's drag and drop: which pieces may be picked up, where they may go, and what a drop does.
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "session/Pointer.h"
-#include "session/PlayerMoves.h"
+#include "session/Session.h"
+#include "records/LayoutFile.h"
 #include "records/PositionRecord.h"
 #include "support/Fixtures.h"
 
 using namespace jv;
-using jv::test::PlacePieces;
 using jv::test::TestGame;
-using Calls = std::vector<std::string>;
 
 namespace {
-// 7 by 7, centre D4: the King on A4 with a free line to the corner A1 but not to A7 (a defender on A6);
-// defenders on A6 and D2; attackers on B2 and F4.
-void Position(TestGame& t) {
-    PlacePieces(t.g, 7, 7, {"...K.d", ".a", ".", ".d", ".", "...a"});
-    t.g.Check1 = false;
-    t.view.Clear();
+// The King on A4, free to the corner A1 but not to A7 (a defender on A6); a defender on D2; attackers on B2
+// and F4; the centre is D4.
+const char* const Open = "07070104HEE0E0HE1EEEEEEEEEEEEE0EEEEEEEEEEEEEEE1EEEHEEEEEH";
+
+std::string Joined(const std::vector<std::string>& lines) {
+    std::string text;
+    for (const std::string& line : lines) text += (text.empty() ? "" : "|") + line;
+    return text;
 }
 }  // namespace
 
-TEST(Pointer, OnlyDefendersAndTheKingArePickedUpAndOnlyWhileTheBoardIsOpen) {
-    // The user plays the defenders: a drag starts on a defender or the King, never on an attacker, an empty
-    // square, a corner or off the board, and never once the game has ended.
-    TestGame t;
-    Position(t);
-    Game& g = t.g;
-    EXPECT_TRUE(CanStartDrag(g, 4, 2));
-    EXPECT_TRUE(CanStartDrag(g, 1, 4));
-    EXPECT_FALSE(CanStartDrag(g, 2, 2));
-    EXPECT_FALSE(CanStartDrag(g, 3, 3));
-    EXPECT_FALSE(CanStartDrag(g, 1, 1));
-    EXPECT_FALSE(CanStartDrag(g, 0, 4));
-    EXPECT_FALSE(CanStartDrag(g, 20, 4));
-    EXPECT_FALSE(BeginDrag(g, 2, 2));
-    EXPECT_EQ(g.DragSource.Col, -1);
-    EXPECT_TRUE(t.view.Calls.empty());
-
-    EXPECT_TRUE(BeginDrag(g, 4, 2));
-    EXPECT_EQ(g.DragSource.Col, 4);
-    EXPECT_EQ(g.DragSource.Row, 2);
-    EXPECT_TRUE(g.DragLineVisible);
-    EXPECT_EQ(t.view.Calls, Calls{"ShowDragLine 4 2 4 2"});
-
-    g.BoardEnabled = false;
-    EXPECT_FALSE(CanStartDrag(g, 4, 2));
-    EXPECT_FALSE(AcceptsDrop(g, 4, 3));
+TEST(Pointer, OnlyDefendersAndTheKingMoveAndOnlyToTheSquaresTheyCanReach) {
+    // The user moves defenders and the King only, and only to the empty squares of their free lines.
+    const struct { const char* why; int fromCol, fromRow, toCol, toRow; bool accepted; } rows[] = {
+        {"up its column", 4, 2, 4, 1, true},   {"along its row", 4, 2, 7, 2, true},
+        {"down its column", 4, 2, 4, 7, true}, {"onto an attacker", 4, 2, 2, 2, false},
+        {"past an attacker", 4, 2, 1, 2, false}, {"diagonally", 4, 2, 5, 3, false},
+        {"its own square", 4, 2, 4, 2, false}, {"the frame", 4, 2, 4, 0, false},
+        {"the King Home", 1, 4, 1, 1, true},   {"the King to a blocked corner", 1, 4, 1, 7, false},
+        {"the King on the centre", 1, 4, 4, 4, true}, {"a defender to a corner", 1, 6, 1, 7, false},
+        {"an attacker", 2, 2, 2, 3, false},    {"an empty square", 3, 3, 3, 4, false},
+        {"a corner", 1, 1, 1, 2, false},       {"off the board", 0, 4, 1, 4, false},
+    };
+    for (const auto& r : rows) {
+        TestGame t;
+        ASSERT_FALSE(ApplyLayoutLine(t.g, Open));
+        EXPECT_EQ(BeginDrag(t.g, r.fromCol, r.fromRow) && AcceptsDrop(t.g, r.toCol, r.toRow), r.accepted) << r.why;
+    }
 }
 
-TEST(Pointer, DropsAreAcceptedOnTheSquaresThePieceCanReach) {
-    // A piece may be dropped on the empty squares of its free straight lines; the King also on a Home
-    // corner that ends one of them. Nothing else.
-    TestGame t;
-    Position(t);
-    Game& g = t.g;
-    BeginDrag(g, 4, 2);
-    EXPECT_TRUE(AcceptsDrop(g, 4, 1));
-    EXPECT_TRUE(AcceptsDrop(g, 3, 2));
-    EXPECT_TRUE(AcceptsDrop(g, 5, 2));
-    EXPECT_TRUE(AcceptsDrop(g, 7, 2));
-    EXPECT_TRUE(AcceptsDrop(g, 4, 7));
-    EXPECT_FALSE(AcceptsDrop(g, 2, 2));   // the attacker in the way
-    EXPECT_FALSE(AcceptsDrop(g, 1, 2));   // beyond it
-    EXPECT_FALSE(AcceptsDrop(g, 5, 3));   // not on a straight line
-    EXPECT_FALSE(AcceptsDrop(g, 4, 2));   // its own square
-    EXPECT_FALSE(AcceptsDrop(g, 4, 0));   // the frame
-
-    BeginDrag(g, 1, 4);
-    EXPECT_TRUE(AcceptsDrop(g, 1, 1));    // Home, at the end of the free line A3, A2
-    EXPECT_FALSE(AcceptsDrop(g, 1, 7));   // Home, but the defender on A6 blocks the line
-    EXPECT_TRUE(AcceptsDrop(g, 4, 4));    // the centre: the King may stop there
-
-    BeginDrag(g, 1, 6);
-    EXPECT_TRUE(AcceptsDrop(g, 1, 5));
-    EXPECT_FALSE(AcceptsDrop(g, 1, 7));   // a corner, but not the King
-}
-
-TEST(Pointer, ARefusedDropCancelsTheDragSilently) {
-    // Dropping where the piece cannot go hides the drag line and forgets the piece: no message, no log
-    // line, no change on the board.
-    TestGame t;
-    Position(t);
-    Game& g = t.g;
-    const std::string before = EncodePosition(g);
-    BeginDrag(g, 4, 2);
-    t.view.Clear();
-    EXPECT_FALSE(EndDrag(g, 2, 2));
-    EXPECT_EQ(t.view.Calls, Calls{"HideDragLine"});
-    EXPECT_EQ(g.DragSource.Col, -1);
-    EXPECT_FALSE(g.DragLineVisible);
-    EXPECT_EQ(EncodePosition(g), before);
-    EXPECT_TRUE(g.EventLog.empty());
-    EXPECT_FALSE(EndDrag(g, 4, 3));   // no drag under way any more
-}
-
-TEST(Pointer, AnAcceptedDropIsTheMoveAndEndsTheDrag) {
-    // An accepted drop goes to DropPiece; the King reaching a corner wins; a defender dropped on the centre
-    // is accepted by the pointer but cancelled by the centre rule.
-    TestGame t;
-    Position(t);
-    Game& g = t.g;
-    BeginDrag(g, 4, 2);
-    EXPECT_TRUE(EndDrag(g, 4, 3));
-    EXPECT_EQ(g.Board(4, 3), DefenderCode);
-    EXPECT_EQ(g.EventLog, std::vector<std::string>{"  Player1 Move D2 > D3"});
-    EXPECT_EQ(g.DragSource.Col, -1);
-
-    const std::string before = EncodePosition(g);
-    BeginDrag(g, 4, 3);
-    EXPECT_TRUE(EndDrag(g, 4, 4));
-    EXPECT_EQ(EncodePosition(g), before);
-    EXPECT_EQ(g.DragSource.Col, -1);
-    EXPECT_FALSE(g.DragLineVisible);
-
-    BeginDrag(g, 1, 4);
-    EXPECT_TRUE(EndDrag(g, 1, 1));
-    EXPECT_EQ(g.KingCol, 1);
-    EXPECT_EQ(g.KingRow, 1);
-    EXPECT_EQ(t.view.Messages().back(), "King at Home !\r\nClick Reset to start a new game [vbhappy+vbok]");
-    EXPECT_FALSE(BeginDrag(g, 4, 3));   // the game is over
-}
-
-TEST(Pointer, TheHintNamesTheSquareAndWhatStandsOnIt) {
-    // While the pointer moves, the hint shows the square's name and its content.
-    TestGame t;
-    Position(t);
-    Game& g = t.g;
-    EXPECT_EQ(PointerHint(g, 4, 2), "D2: defender");
-    EXPECT_EQ(PointerHint(g, 1, 4), "A4: King");
-    EXPECT_EQ(PointerHint(g, 2, 2), "B2: attacker");
-    EXPECT_EQ(PointerHint(g, 1, 1), "A1: Home");
-    EXPECT_EQ(PointerHint(g, 3, 3), "C3: empty");
-    EXPECT_EQ(PointerHint(g, 0, 3), "");
+TEST(Pointer, ADropMovesRecordsAndCapturesOrChangesNothing) {
+    // An accepted drop is recorded, logged and captures; a refused one changes nothing; the King Home wins.
+    const char* const layout = "07070104HEE0EEHEEEEEEEEEEEEEEEEEEEEE01EEEEEEEEEEEEHE00EEH";
+    const struct { const char* why; int fromCol, fromRow, toCol, toRow; const char* log; std::size_t undo; } rows[] = {
+        {"a capture", 7, 3, 5, 3, "  Player1 Move G3 > E3|  Player 1 captures E2", 1},
+        {"a defender on the centre", 7, 4, 4, 4, "", 0},
+        {"the King on the centre", 1, 4, 4, 4, "  King Move A4 > D4", 1},
+        {"a defender on a corner", 7, 3, 7, 1, "", 0},
+        {"the King Home", 1, 4, 1, 1, "", 0},
+    };
+    for (const auto& r : rows) {
+        TestGame t;
+        ASSERT_FALSE(ApplyLayoutLine(t.g, layout));
+        t.g.Check1 = false;
+        ASSERT_TRUE(BeginDrag(t.g, r.fromCol, r.fromRow)) << r.why;
+        EndDrag(t.g, r.toCol, r.toRow);
+        EXPECT_EQ(Joined(t.g.EventLog), r.log) << r.why;
+        EXPECT_EQ(t.g.Undo.size(), r.undo) << r.why;
+        EXPECT_FALSE(t.g.DragLineVisible) << r.why;
+        EXPECT_EQ(GameFinished(t.g), r.toCol == 1 && r.toRow == 1) << r.why;
+    }
 }
 
 TEST(Pointer, DropsFollowTheBoardEvenWhenTheTablesAreStale) {
-    // A computer player's trial can leave the analysis of another position behind; the pointer walks the
-    // board as it stands, so a piece never jumps over another or lands where the stale lists say.
+    // The pointer walks the board as it stands, whatever analysis a computer player's trial left behind.
     TestGame t;
     Game& g = t.g;
-    PlacePieces(g, 7, 7, {".......", ".d.....", ".......", "...K...", ".......", ".......", "......."});
+    ASSERT_FALSE(ApplyLayoutLine(g, "07070404HEEEEEHE0EEEEEEEEEEEEEEE0EEEEEEEEEEEEEEEEEHEEEEEH"));
     g.Board(2, 4) = AttackerCode;   // placed after the analysis: the lists still show (2,4) free
     ASSERT_NE(g.MoveTargets(2, 2).find("0205,"), std::string::npos);
     ASSERT_TRUE(BeginDrag(g, 2, 2));
-    EXPECT_TRUE(AcceptsDrop(g, 2, 3));
-    EXPECT_FALSE(AcceptsDrop(g, 2, 4));
-    EXPECT_FALSE(AcceptsDrop(g, 2, 5));
+    EXPECT_EQ(std::tuple(AcceptsDrop(g, 2, 3), AcceptsDrop(g, 2, 4), AcceptsDrop(g, 2, 5)), std::tuple(true, false, false));
     EXPECT_EQ(PieceTargets(g, 2, 2), "0102,0302,0402,0502,0602,0702,0201,0203,");
 }

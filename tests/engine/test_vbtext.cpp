@@ -1,34 +1,20 @@
+// Numbers in text: the leading number of any text, rounded half to even and held within 32 bits.
 #include <gtest/gtest.h>
 
 #include "core/VbText.h"
 
 using namespace jv;
 
-TEST(VbText, NumbersAreWrittenWithZerosAndALeadingBlank) {
-    // Format pads to the pattern's width; Str puts a blank before a non-negative number.
-    EXPECT_EQ(Format(5, "00"), "05");
-    EXPECT_EQ(Format(123, "00"), "123");
-    EXPECT_EQ(Format(42, "00000"), "00042");
-    EXPECT_EQ(Format(-3, "00"), "-03");
-    EXPECT_EQ(Str(5), " 5");
-    EXPECT_EQ(Str(0), " 0");
-    EXPECT_EQ(Str(-5), "-5");
-}
-
-TEST(VbText, ValReadsTheLeadingNumberAndRoundsHalfToEven) {
-    // Val takes the leading number of a text, 0 when there is none.
-    EXPECT_EQ(Val("12ab"), 12);
-    EXPECT_EQ(Val("xx"), 0);
-    EXPECT_EQ(Val(""), 0);
-    EXPECT_EQ(Val("  7"), 7);
-    EXPECT_EQ(Val("-4x"), -4);
-    EXPECT_DOUBLE_EQ(Val("2.5"), 2.5);
-    EXPECT_EQ(RoundHalfEven(2.5), 2);
-    EXPECT_EQ(RoundHalfEven(3.5), 4);
-    EXPECT_EQ(RoundHalfEven(-2.5), -2);
-    EXPECT_EQ(ValInt("2.5"), 2);
-    EXPECT_EQ(ValInt("3.5"), 4);
-    EXPECT_EQ(ValInt("99999999999999999999"), 2147483647);
-    EXPECT_EQ(Trim("  a b  "), "a b");
-    EXPECT_EQ(Lower("VbYesNo"), "vbyesno");
+TEST(VbText, ValReadsTheLeadingNumberAndValIntRoundsHalfToEven) {
+    // Val reads a text's leading number and ValInt rounds it half to even within 32 bits.
+    const struct { const char* text; double val; int valInt; } rows[] = {
+        {"12ab", 12, 12},  {"  7", 7, 7},     {"\t-4x", -4, -4}, {"2.5", 2.5, 2},     {"3.5", 3.5, 4},
+        {"-2.5", -2.5, -2}, {"1e3", 1, 1},    {"&HFF", 0, 0},    {"1,000", 1, 1},     {".5", 0.5, 0},
+        {"- 5", 0, 0},      {"", 0, 0},       {"x1", 0, 0},      {"99999999999", 99999999999.0, 2147483647},
+        {"-99999999999", -99999999999.0, -2147483647 - 1},
+    };
+    for (const auto& r : rows) {
+        EXPECT_DOUBLE_EQ(Val(r.text), r.val) << '"' << r.text << '"';
+        EXPECT_EQ(ValInt(r.text), r.valInt) << '"' << r.text << '"';
+    }
 }

@@ -5,7 +5,6 @@
 #include <sstream>
 #include <unistd.h>
 
-#include "core/Analysis.h"
 #include "core/Board.h"
 
 namespace jv::test {
@@ -29,13 +28,9 @@ TestGame::~TestGame() {
 }
 
 void TestGame::CopyData(const std::string& name) {
-    const fs::path source(JARLSVAKT_DATA_DIR);
-    if (!name.empty()) {
-        fs::copy_file(source / name, folder / name, fs::copy_options::overwrite_existing);
-        return;
-    }
-    for (const auto& entry : fs::directory_iterator(source))
-        fs::copy_file(entry.path(), folder / entry.path().filename(), fs::copy_options::overwrite_existing);
+    for (const auto& entry : fs::directory_iterator(fs::path(JARLSVAKT_DATA_DIR)))
+        if (name.empty() || entry.path().filename() == name)
+            fs::copy_file(entry.path(), folder / entry.path().filename(), fs::copy_options::overwrite_existing);
 }
 
 std::string TestGame::WriteFile(const std::string& name, const std::string& content) {
@@ -52,28 +47,6 @@ std::string TestGame::ReadFile(const std::string& name) const {
 }
 
 std::string TestGame::Path(const std::string& name) const { return (folder / name).string(); }
-
-void PlacePieces(Game& g, int width, int height, std::initializer_list<const char*> cols) {
-    NewBoard(g, width, height);
-    int col = 0;
-    for (const char* text : cols) {
-        ++col;
-        for (int row = 1; row <= height && text[row - 1] != '\0'; ++row) {
-            if (IsCorner(g, col, row)) continue;
-            switch (text[row - 1]) {
-                case 'd': g.Board(col, row) = DefenderCode; break;
-                case 'a': g.Board(col, row) = AttackerCode; break;
-                case 'K':
-                    g.Board(col, row) = DefenderCode;
-                    g.KingCol = col;
-                    g.KingRow = row;
-                    break;
-                default: g.Board(col, row) = EmptyCode; break;
-            }
-        }
-    }
-    AnalysePosition(g);
-}
 
 std::string DataPath(const std::string& name) { return std::string(JARLSVAKT_DATA_DIR) + "/" + name; }
 std::string TestDataPath(const std::string& name) { return std::string(JARLSVAKT_TEST_DATA_DIR) + "/" + name; }

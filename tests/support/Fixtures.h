@@ -1,6 +1,6 @@
 #pragma once
+// A game of its own for each test: a recording view and a temporary program folder, removed afterwards.
 #include <filesystem>
-#include <memory>
 #include <string>
 
 #include "core/Game.h"
@@ -30,12 +30,6 @@ struct TestGame {
     // A full path in the program folder.
     std::string Path(const std::string& name) const;
 };
-
-// Sets up an empty board of the given size and places pieces from rows of
-// text, one text per Col, one character per Row: '.' empty, 'd' defender,
-// 'a' attacker, 'K' the King (a defender square). The corners stay Home
-// whatever the text says. Then analyses the position.
-void PlacePieces(Game& g, int width, int height, std::initializer_list<const char*> cols);
 
 // The shipped data folder and the test data folder of the source tree.
 std::string DataPath(const std::string& name);

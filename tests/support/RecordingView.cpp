@@ -8,36 +8,20 @@ std::string Join(std::initializer_list<int> numbers) {
     for (int n : numbers) out += " " + std::to_string(n);
     return out;
 }
-const char* ListName(ListId list) {
-    switch (list) {
-        case ListId::List1A: return "List1A";
-        case ListId::List2A: return "List2A";
-        case ListId::List3: return "List3";
-        case ListId::List1: return "List1";
-        case ListId::List1D: return "List1D";
-        case ListId::List2D: return "List2D";
-        case ListId::AttackerMovesRank: return "AttackerMovesRank";
-        case ListId::DefenderMovesRank: return "DefenderMovesRank";
-        case ListId::Undo: return "Undo";
-    }
-    return "?";
-}
+const char* const ListNames[] = {"List1A", "List2A", "List3", "List1", "List1D", "List2D", "AttackerMovesRank",
+                                 "DefenderMovesRank", "Undo"};
 }  // namespace
 
-std::vector<std::string> RecordingView::CallsStartingWith(const std::string& prefix) const {
+std::vector<std::string> RecordingView::Messages() const {
     std::vector<std::string> out;
     for (const std::string& c : Calls)
-        if (c.rfind(prefix, 0) == 0) out.push_back(c.substr(prefix.size()));
+        if (c.rfind("Show ", 0) == 0) out.push_back(c.substr(5));
     return out;
 }
 
 void RecordingView::DrawBoard() { Calls.push_back("DrawBoard"); }
-void RecordingView::DrawSquare(int col, int row, std::int32_t colour) {
-    Calls.push_back("DrawSquare" + Join({col, row, colour}));
-}
-void RecordingView::DrawPiece(int col, int row, int drawCode) {
-    Calls.push_back("DrawPiece" + Join({col, row, drawCode}));
-}
+void RecordingView::DrawSquare(int col, int row, std::int32_t colour) { Calls.push_back("DrawSquare" + Join({col, row, colour})); }
+void RecordingView::DrawPiece(int col, int row, int drawCode) { Calls.push_back("DrawPiece" + Join({col, row, drawCode})); }
 void RecordingView::DrawMoveMark(const Move& m) {
     Calls.push_back("DrawMoveMark" + Join({m.From.Col, m.From.Row, m.To.Col, m.To.Row}));
 }
@@ -65,40 +49,24 @@ int RecordingView::Show(const std::string& text, const std::string& style) {
     Answers.pop_front();
     return answer;
 }
-void RecordingView::EnableBoard(bool enabled) {
-    BoardEnabled = enabled;
-    Calls.push_back(enabled ? "EnableBoard 1" : "EnableBoard 0");
-}
-void RecordingView::SetBusy(bool busy) {
-    Busy = busy;
-    Calls.push_back(busy ? "SetBusy 1" : "SetBusy 0");
-}
-void RecordingView::UpdateCounters(int defenders, int attackers) {
-    Defenders = defenders;
-    Attackers = attackers;
-}
+void RecordingView::EnableBoard(bool enabled) { Calls.push_back("EnableBoard" + Join({BoardEnabled = enabled})); }
+void RecordingView::SetBusy(bool busy) { Calls.push_back("SetBusy" + Join({Busy = busy})); }
+void RecordingView::UpdateCounters(int defenders, int attackers) { Defenders = defenders; Attackers = attackers; }
 void RecordingView::ShowLayoutName(const std::string& caption, const std::string& toolTip) {
     LayoutCaption = caption;
     LayoutToolTip = toolTip;
     Calls.push_back("ShowLayoutName " + caption + " | " + toolTip);
 }
-void RecordingView::RefreshList(ListId list) { Calls.push_back(std::string("RefreshList ") + ListName(list)); }
-void RecordingView::ShowEditor(bool visible) {
-    EditorVisible = visible;
-    Calls.push_back(visible ? "ShowEditor 1" : "ShowEditor 0");
-}
+void RecordingView::RefreshList(ListId list) { Calls.push_back(std::string("RefreshList ") + ListNames[static_cast<int>(list)]); }
+void RecordingView::ShowEditor(bool visible) { Calls.push_back("ShowEditor" + Join({EditorVisible = visible})); }
 std::string RecordingView::ChooseFile(FileMode mode, const std::string& title, const std::string& pattern,
                                       const std::string& description) {
-    Calls.push_back(std::string("ChooseFile ") + (mode == FileMode::Open ? "OPEN" : "SAVE") + " " + title +
-                    " [" + pattern + "] " + description);
-    if (FileChoices.empty()) return "";
-    std::string name = FileChoices.front();
-    FileChoices.pop_front();
+    Calls.push_back(std::string("ChooseFile ") + (mode == FileMode::Open ? "OPEN" : "SAVE") + " " + title + " [" +
+                    pattern + "] " + description);
+    std::string name = FileChoices.empty() ? "" : FileChoices.front();
+    if (!FileChoices.empty()) FileChoices.pop_front();
     return name;
 }
-void RecordingView::EndProgram() {
-    Ended = true;
-    Calls.push_back("EndProgram");
-}
+void RecordingView::EndProgram() { Ended = true; Calls.push_back("EndProgram"); }
 
 }  // namespace jv::test

@@ -33,10 +33,8 @@ public:
     bool Ended = false;
     std::string LayoutCaption, LayoutToolTip;
 
-    // The calls whose text starts with prefix, in order.
-    std::vector<std::string> CallsStartingWith(const std::string& prefix) const;
-    // Shows only (without the "Show " word).
-    std::vector<std::string> Messages() const { return CallsStartingWith("Show "); }
+    // The messages shown, in order, each as "text [style]".
+    std::vector<std::string> Messages() const;
     void Clear() { Calls.clear(); }
 
     void DrawBoard() override;

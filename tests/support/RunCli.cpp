@@ -1,32 +1,25 @@
 #include "support/RunCli.h"
 
-#include <cstdio>
+#include <cstdlib>
 #include <fstream>
-#include <sstream>
+#include <iterator>
 #include <sys/wait.h>
+
+#include "records/TextFile.h"
 
 namespace jv::test {
 
 CliResult RunCli(const std::string& args, const std::string& home, const std::string& input) {
-    const std::string inFile = home + "/.cli-input";
-    const std::string errFile = home + "/.cli-error";
-    std::ofstream(inFile, std::ios::binary) << input;
-    const std::string command = "JARLSVAKT_HOME='" + home + "' '" JARLSVAKT_BIN_DIR "/jarlsvakt-cli' " + args +
-                                " <'" + inFile + "' 2>'" + errFile + "'";
+    const std::string in = home + "/.cli-input", out = home + "/.cli-output", err = home + "/.cli-error";
+    std::ofstream(in, std::ios::binary) << input;
+    const std::string command = "JARLSVAKT_HOME='" + home + "' '" JARLSVAKT_BIN_DIR "/jarlsvakt-cli' " + args + " <'" + in +
+                                "' >'" + out + "' 2>'" + err + "'";
+    const int status = std::system(command.c_str());
     CliResult result;
-    FILE* pipe = popen(command.c_str(), "r");
-    if (!pipe) return result;
-    std::string text;
-    char buffer[4096];
-    while (std::size_t n = fread(buffer, 1, sizeof buffer, pipe)) text.append(buffer, n);
-    const int status = pclose(pipe);
     result.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    std::istringstream lines(text);
-    for (std::string line; std::getline(lines, line);) result.out.push_back(line);
-    std::ifstream err(errFile, std::ios::binary);
-    std::ostringstream errText;
-    errText << err.rdbuf();
-    result.err = errText.str();
+    ReadLines(out, result.out);
+    std::ifstream errText(err, std::ios::binary);
+    result.err.assign(std::istreambuf_iterator<char>(errText), {});
     return result;
 }
 

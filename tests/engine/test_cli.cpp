@@ -1,0 +1,80 @@
+// The command-line tool: each command's output, its refusals and its exit codes.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "support/Fixtures.h"
+#include "support/RunCli.h"
+
+using jv::test::RunCli;
+using jv::test::TestGame;
+using Lines = std::vector<std::string>;
+
+namespace {
+const std::string Small = "05050303HEEEHE1EEEEE0EEEEEEEHEEEH";
+const std::string Moved = "05050303HEEEHEEE1EEE0EEEEEEEHEEEH";   // the attacker from B2 to B4
+const std::string KingMoved = "05050403HEEEHEEE1EEEEEEEE0EEHEEEH";   // then the King from C3 to D3
+
+}  // namespace
+
+TEST(Cli, EachCommandPrintsItsResultOrRefusesWithItsExitCode) {
+    // Each command prints its result and exits 0, or exits 2 when it cannot read its input and 1 on misuse.
+    TestGame t;
+    t.CopyData();
+    t.WriteFile("small.txt", Small + "\r\n");
+    t.WriteFile("game.txt", Small + "\r\n" + Moved + "\r\n" + KingMoved + "\r\n");
+    t.WriteFile("bad.txt", Small + "\r\n" + Moved + "\r\n" + Small + "\r\n" + KingMoved + "\r\n");
+    t.WriteFile("kinghome.txt", "07070104HEE0EEH" + std::string(35, 'E') + "HEEEEEH\r\n");
+    t.WriteFile("taken.txt", "07070401HEEEEEHE1EEEEE10EEEEE0EEEEEE1EEEEEEE1EEEEEHEEEEEH\r\n");
+    const struct { std::string args, input; int exit; Lines out; std::string err; } rows[] = {
+        {"analyse small.txt", "", 0, {"size 5 5", "king 0303", "targets 0202 0102,0302,0402,0502,0201,0203,0204,0205,",
+          "targets 0303 0203,0103,0403,0503,0302,0301,0304,0305,", "reach0 0103,0203,0301,0302,0304,0305,0403,0503,",
+          "reach1 0102,0201,0203,0204,0205,0302,0402,0502,", "chances0 ", "chances1 ", "kingcapture ", "counters 0 1"}, ""},
+        {"analyse -", "03030202HEHE0EHEH\n", 0, {"size 3 3", "counters 0 0"}, ""},
+        {"analyse nothere.txt", "", 2, {}, "Error reading Layout File:\nnothere.txt\n"},
+        {"layout patf.txt", "", 0, {"    1  2  3  4  5  6  7  8  9 10 11", "A   H  .  .  a  a  a  a  a  .  .  H",
+          "F   a  a  .  d  d  K  d  d  .  a  a"}, ""},
+        {"otn patf.txt", "", 0, {"/3ttttt3/5t5/11/t4T4t/t3TTT3t/tt1TTKTT1tt/t3TTT3t/t4T4t/11/5t5/3ttttt3/"}, ""},
+        {"otn -", "07070404HEE1EEHEEE1EEEEEE0EEE1100011EEE0EEEEEE1EEEHEE1EEH\r\n", 0, {"/3t3/3t3/3T3/ttTKTtt/3T3/3t3/3t3/"}, ""},
+        {"from-otn /3/1K1/3/ '" + t.Path("made.txt") + "'", "", 0, {"03030202HEHE0EHEH"}, ""},
+        {"from-otn /3/1T1/3/ '" + t.Path("noking.txt") + "'", "", 2, {}, "Not an OpenTafl position JarlsVakt can play: the position has no King\n"},
+        {"record game.txt", "", 0, {"[layout \"" + Small + "\"]", "[size \"5x5\"]", "", "1. ... b4-d4", "2. c3-c2"}, ""},
+        {"record bad.txt", "", 2, {}, "Moves Log File:\nbad.txt\nline 4: pieces arrived on d4/c2: more than one move\n"},
+        {"replay game.txt", "", 0, {"Step 1 of 3", "    1  2  3  4  5", "B   .  a  .  .  .", "Step 3 of 3", "D   .  .  K  .  ."}, ""},
+        {"play pattern1.txt 'user:0304>0302' 'user:0504>0502' 'user:0104>0105' 'user:0404>0304' 'user:0405>0404' "
+         "'attacker:0604>0504' undo 'defender:0403>0303'", "", 0,
+         {"Loaded Layout: pattern1.txt", "  Player1 Move C4 > C2", "  Player1 Move E4 > E2", "  Player 1 captures D2",
+          "REFUSED user:0104>0105", "  King Move D4 > C4", "REFUSED user:0405>0404", "  Player2 Move F4 > E4",
+          "  Player1 Move D3 > C3", "LAYOUT 07070304HEE1EEHEEE1EEEE000EEE1EEE011E0EEEEEEEE1EEEHEE1EEH"}, ""},
+        {"play pattern1.txt user:d5-b5 attacker:d7-b7 user:h1-a1", "", 0,
+         {"  Player1 Move C4 > C2", "  Player2 Move A4 > A2", "REFUSED user:h1-a1"}, ""},
+        {"play kinghome.txt 'user:0104>0101' 'user:0101>0102'", "", 0,
+         {"MESSAGE [vbhappy+vbok]: King at Home ! / Click Reset to start a new game", "REFUSED user:0101>0102"}, ""},
+        {"play taken.txt 'attacker:0602>0402' 'user:0302>0303'", "", 0,
+         {"MESSAGE [vbcritical+vbok]: King Captured ! / Click Reset to start a new game", "REFUSED user:0302>0303"}, ""},
+        {"play pattern1.txt 'attacker:0009>0101'", "", 0, {"REFUSED attacker:0009>0101"}, ""},
+        {"play pattern1.txt user:d5b5", "", 1, {}, "?"},
+        {"play nothere.txt", "", 2, {"MESSAGE [vbcritical+vbok]: Error reading Layout File: / nothere.txt"}, "?"},
+        {"perft pattern1.txt 1", "", 0, {"0304>0303: 1", "total: 24"}, ""},
+        {"perft pattern1.txt 2 --side attackers", "", 0, {"total: 960"}, ""},
+        {"rank defenders patf.txt --mode 2", "", 1, {}, "?"},
+        {"rank attackers nothere.txt", "", 2, {}, "Error reading Layout File:\nnothere.txt\n"},
+        {"selfplay kinghome.txt --games 2", "", 0, {"game 1: King with a free run home after 0 moves",
+          "2 games: King captured 0, King at Home 0, King with a free run home 2, no move for the defenders 0, "
+          "no move for the attackers 0, move limit 0"}, ""},
+        {"selfplay kinghome.txt --games x", "", 1, {}, "?"},
+    };
+    for (const auto& r : rows) {
+        const auto result = RunCli(r.args, t.folder.string(), r.input);
+        EXPECT_EQ(result.exitCode, r.exit) << r.args << "\n" << result.err;
+        auto at = result.out.begin();   // the lines expected, in their order, among the lines printed
+        for (const std::string& line : r.out) {
+            at = std::find(at, result.out.end(), line);
+            EXPECT_NE(at, result.out.end()) << r.args << "\nprints no " << line;
+            at += at != result.out.end();
+        }
+        if (r.err != "?") EXPECT_EQ(result.err, r.err) << r.args;
+    }
+    EXPECT_EQ(t.ReadFile("made.txt"), "03030202HEHE0EHEH\r\n");
+    EXPECT_EQ(t.ReadFile("noking.txt"), "");
+}
