@@ -30,10 +30,10 @@ struct ClockReading {
     int Month = 1, Day = 1, Hour = 0, Minute = 0;
 };
 
-// The game's shared state. The procedures are free functions that take the
-// game first; the program owns exactly one Game, a test builds one per case.
-struct Game {
-    // Board and position.
+// The position: the board, its size, the King's and the centre's squares
+// and the numbering of the squares. Fixed arrays only, so a copy touches no
+// heap and can be searched on another thread.
+struct Position {
     Grid<std::int32_t> Board;
     int BoardWidth = 0;
     int BoardHeight = 0;
@@ -41,55 +41,67 @@ struct Game {
     int KingRow = 0;
     int CentreCol = 0;
     int CentreRow = 0;
-    Square DragSource;
-    Square PointerSquare;
-    bool DragLineVisible = false;
 
     // Square numbering: SquareNumber(col, row) is 1..W*H column by column;
     // SquareCol and SquareRow give a number's square back.
     Grid<int> SquareNumber;
     std::array<int, MaxBoardSide * MaxBoardSide + 1> SquareCol{};
     std::array<int, MaxBoardSide * MaxBoardSide + 1> SquareRow{};
-    std::array<std::string, 17> ColumnLetters;   // index 1..16: "A".."P"
+};
 
-    // Analysis of the position, rebuilt by AnalysePosition.
+// The analysis of the position, rebuilt by AnalysePosition.
+struct PositionAnalysis {
     Grid<std::string> MoveTargets;
     std::array<Grid<std::int8_t>, 2> ReachMap;   // indexed by side code 0 / 1
     std::array<std::string, 2> CaptureChances;
     std::string KingCaptureSquares;
     int DefenderCount = 0;   // defenders without the King
     int AttackerCount = 0;
+};
 
-    // The computer players' tables.
+// The computer players' tables.
+struct PlayerTables {
     Grid<std::int32_t> SquareWeight;
     Grid<std::int32_t> PlanBonus;
     Grid<std::int32_t> DefenderScore;
     Grid<std::int32_t> DefenderBonus;
+};
 
-    // The lists the user reads.
+// The lists the user reads: the players' reasoning, the undo history and
+// the event log.
+struct UserLists {
     std::vector<std::string> List1A, List2A, List3, List1;
     std::vector<std::string> List1D, List2D;
     std::vector<std::string> AttackerMovesRank, DefenderMovesRank;
     std::vector<std::string> Undo;
     std::vector<std::string> EventLog;
+};
 
-    // Files.
-    std::string ProgramFolder;   // ends with a folder separator
-    std::string LayoutFile = "patf.txt";
-    std::string MovesLogFile;
-
-    // Settings kept in the configuration file.
+// The settings kept in the configuration file, the colour table of the
+// scheme, and the letters that name the columns.
+struct Settings {
     std::string SchemeFile = "xp.col";
-    std::array<std::string, 4> PictureFiles{"player00.ico", "player10.ico", "home0.ico",
-                                            "king0.ico"};
+    std::array<std::string, 4> PictureFiles{"player00.ico", "player10.ico", "home0.ico", "king0.ico"};
     std::array<std::int32_t, 4> PieceColours{32768, 128, 8421504, 0};
     int BoardStyle = 0;
     int SquareGap = 1;
     int ShowLabels = 1;
     int ColourMode = 0;
     std::array<std::int32_t, 14> ColourTable{};   // 0..12 from the scheme, 13 from the cfg
+    std::array<std::string, 17> ColumnLetters;    // index 1..16: "A".."P"
+};
 
-    // Session.
+// The session: files, switches, the piece in hand, the game's progress, the
+// chance generator, the clock and the view.
+struct SessionState {
+    std::string ProgramFolder;   // ends with a folder separator
+    std::string LayoutFile = "patf.txt";
+    std::string MovesLogFile;
+
+    Square DragSource;
+    Square PointerSquare;
+    bool DragLineVisible = false;
+
     bool Check1 = true;          // "Computer Moves Auto after User Move"
     bool Check2 = false;         // recording the moves log
     bool EditorOn = false;       // the layout editor's palette Picture2 is visible
@@ -109,5 +121,10 @@ struct Game {
     std::function<ClockReading()> Clock;
     GameView* View = nullptr;
 };
+
+// The game: the parts above together. The procedures are free functions that
+// take the parts they need, most of them the whole game first; the program
+// owns exactly one Game, a test builds one per case.
+struct Game : Position, PositionAnalysis, PlayerTables, UserLists, Settings, SessionState {};
 
 }  // namespace jv

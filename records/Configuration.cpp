@@ -89,7 +89,7 @@ private:
 
 // The settings as read from the file, taken over only once all eight lines
 // have been read.
-struct Settings {
+struct StoredSettings {
     std::string Scheme, Layout;
     std::array<std::string, 4> Pictures;
     std::array<std::int32_t, 4> Colours{};
@@ -108,7 +108,7 @@ bool ReadNumbers(std::string_view line, std::int32_t* out, int count) {
 
 // Reads the eight lines; a missing file named on line 2 to 6 falls back to
 // its default name. False when the file cannot be read whole.
-bool ReadSettings(const Game& g, const std::string& path, Settings& s) {
+bool ReadSettings(const Game& g, const std::string& path, StoredSettings& s) {
     std::vector<std::string> lines;
     if (!ReadLines(path, lines) || lines.size() < 8) return false;
     s.Scheme = ListInput(lines[0]).Text();
@@ -122,7 +122,7 @@ bool ReadSettings(const Game& g, const std::string& path, Settings& s) {
     return ReadNumbers(lines[6], s.Colours.data(), 4) && ReadNumbers(lines[7], s.Display.data(), 5);
 }
 
-void Apply(Game& g, const Settings& s) {
+void Apply(Game& g, const StoredSettings& s) {
     g.SchemeFile = s.Scheme;
     g.LayoutFile = s.Layout;
     g.PictureFiles = s.Pictures;
@@ -150,7 +150,7 @@ std::string ConfigurationText(const Game& g) {
 
 void ReadConfiguration(Game& g, const std::string& name) {
     const std::string path = InProgramFolder(g, name);
-    Settings s;
+    StoredSettings s;
     if (ReadSettings(g, path, s)) {
         Apply(g, s);
         return;

@@ -29,7 +29,7 @@ bool AllDigits(std::string_view text) {
 }
 
 // One position of the game, as its layout line gives it.
-struct Position {
+struct LoggedPosition {
     std::string Line;
     int Height = 0, KingCol = 0, KingRow = 0;
 
@@ -47,7 +47,7 @@ bool IsDefender(char kind) { return kind == 'd' || kind == 'K'; }
 
 // A layout line of the game's board; false with the reason when it is not
 // one the game can have written.
-bool ReadPosition(const Game& g, const std::string& line, Position& p, std::string& reason) {
+bool ReadPosition(const Game& g, const std::string& line, LoggedPosition& p, std::string& reason) {
     const int width = g.BoardWidth, height = g.BoardHeight;
     const std::string size = Format(width, "00") + Format(height, "00");
     if (line.size() != static_cast<std::size_t>(8 + width * height) || line.compare(0, 4, size) != 0 ||
@@ -109,7 +109,7 @@ struct FoundMove {
 };
 
 // The squares whose piece came and went between the two positions.
-bool CompareSquares(const Game& g, const Position& before, const Position& after, std::vector<Square>& arrived,
+bool CompareSquares(const Game& g, const LoggedPosition& before, const LoggedPosition& after, std::vector<Square>& arrived,
                     std::vector<Square>& left, std::string& reason) {
     for (int col = 1; col <= g.BoardWidth; ++col)
         for (int row = 1; row <= g.BoardHeight; ++row) {
@@ -132,7 +132,7 @@ bool CompareSquares(const Game& g, const Position& before, const Position& after
 
 // The piece that moved and the enemy pieces gone; false with the reason
 // when the changes are not those of one piece's move.
-bool FindMove(const Game& g, const Position& before, const Position& after, FoundMove& m, std::string& reason) {
+bool FindMove(const Game& g, const LoggedPosition& before, const LoggedPosition& after, FoundMove& m, std::string& reason) {
     std::vector<Square> arrived, left;
     if (!CompareSquares(g, before, after, arrived, left, reason)) return false;
     m.To = arrived.front();
@@ -163,7 +163,7 @@ bool FindMove(const Game& g, const Position& before, const Position& after, Foun
 
 // The move runs along a row or a column over empty squares onto an empty
 // square, or the King's onto a Home corner.
-bool CheckPath(const Game& g, const Position& before, const FoundMove& m, const std::string& text,
+bool CheckPath(const Game& g, const LoggedPosition& before, const FoundMove& m, const std::string& text,
                std::string& reason) {
     if (m.From.Col != m.To.Col && m.From.Row != m.To.Row) {
         reason = text + " runs along neither a rank nor a file";
@@ -183,7 +183,7 @@ bool CheckPath(const Game& g, const Position& before, const FoundMove& m, const 
     return true;
 }
 
-void SetBoard(Game& g, const Position& p) {
+void SetBoard(Game& g, const LoggedPosition& p) {
     for (int col = 1; col <= g.BoardWidth; ++col)
         for (int row = 1; row <= g.BoardHeight; ++row) {
             const char letter = p.Letter(col, row);
@@ -220,7 +220,7 @@ struct MoveText {
 
 // The standard text of the move from before to after; false with the reason
 // when after is not what one move makes of before.
-bool ReadMove(Game& g, TakingsView& view, const Position& before, const Position& after, MoveText& text,
+bool ReadMove(Game& g, TakingsView& view, const LoggedPosition& before, const LoggedPosition& after, MoveText& text,
               std::string& reason) {
     FoundMove m;
     if (!FindMove(g, before, after, m, reason)) return false;
@@ -246,7 +246,7 @@ bool ReadMove(Game& g, TakingsView& view, const Position& before, const Position
 // square, with the position each leaves behind; a move that ends the game
 // (the King taken) leaves none.
 template <typename Visit>
-void ForEachMove(Game& g, TakingsView& view, const Position& before, Visit visit) {
+void ForEachMove(Game& g, TakingsView& view, const LoggedPosition& before, Visit visit) {
     static constexpr int Steps[4][2] = {{-1, 0}, {1, 0}, {0, -1}, {0, 1}};
     for (int col = 1; col <= g.BoardWidth; ++col)
         for (int row = 1; row <= g.BoardHeight; ++row) {
@@ -262,7 +262,7 @@ void ForEachMove(Game& g, TakingsView& view, const Position& before, Visit visit
                     m.Kind = kind;
                     SetBoard(g, before);
                     if (!MakeMoveAgain(g, view, m).empty()) continue;
-                    Position middle = before;
+                    LoggedPosition middle = before;
                     middle.Line.replace(4, std::string::npos, EncodePosition(g));
                     middle.KingCol = g.KingCol;
                     middle.KingRow = g.KingRow;
@@ -275,14 +275,14 @@ void ForEachMove(Game& g, TakingsView& view, const Position& before, Visit visit
 // undo history) may hold the position one move before it and then the King
 // at Home: two moves apart, the second the King's escape. Both are read
 // when exactly one move fits before the escape; false otherwise.
-bool ReadMoveAndEscape(Game& g, TakingsView& view, const Position& before, const Position& after,
+bool ReadMoveAndEscape(Game& g, TakingsView& view, const LoggedPosition& before, const LoggedPosition& after,
                        std::vector<MoveText>& moves, std::string& reason) {
     const int kc = after.KingCol, kr = after.KingRow;
     const bool kingHome = kc >= 1 && kc <= g.BoardWidth && kr >= 1 && kr <= g.BoardHeight && IsCorner(g, kc, kr) &&
                           after.Kind(kc, kr) == 'K';
     if (!kingHome) return false;
     std::vector<std::vector<MoveText>> found;
-    ForEachMove(g, view, before, [&](const Position& middle) {
+    ForEachMove(g, view, before, [&](const LoggedPosition& middle) {
         std::string ignored;
         std::vector<MoveText> pair(2);
         if (!ReadMove(g, view, before, middle, pair[0], ignored) || !ReadMove(g, view, middle, after, pair[1], ignored))
@@ -349,7 +349,7 @@ GameRecordResult MakeGameRecord(const std::vector<std::string>& layoutLines) {
     NewBoard(g, width, height);
 
     std::string reason;
-    Position before, after;
+    LoggedPosition before, after;
     if (!ReadPosition(g, layoutLines.front(), before, reason)) return Refuse(1, reason);
     MoveNumbers numbers;
     for (std::size_t i = 1; i < layoutLines.size(); ++i) {

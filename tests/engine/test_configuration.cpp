@@ -25,7 +25,7 @@ void UnusualSettings(Game& g) {
 }
 
 // The settings in force, in the file's order.
-std::string Settings(const Game& g) {
+std::string SettingsText(const Game& g) {
     std::string text = g.SchemeFile + "|" + g.LayoutFile + "|";
     for (const std::string& name : g.PictureFiles) text += name + " ";
     for (std::int32_t colour : g.PieceColours) text += std::to_string(colour) + " ";
@@ -59,7 +59,7 @@ TEST(Configuration, AReadableFileIsTakenAndAnyOtherReplacedWithTheDefaults) {
         if (!r.text.empty()) t.WriteFile("jarlsvakt.cfg", r.text);
         UnusualSettings(t.g);
         ReadConfiguration(t.g, "jarlsvakt.cfg");
-        EXPECT_EQ(Settings(t.g), r.settings) << r.why;
+        EXPECT_EQ(SettingsText(t.g), r.settings) << r.why;
         EXPECT_EQ(t.ReadFile("jarlsvakt.cfg"), r.rewritten ? Defaults : r.text) << r.why;
         EXPECT_TRUE(t.view.Calls.empty()) << r.why;
     }
