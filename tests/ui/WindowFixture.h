@@ -1,15 +1,21 @@
 #pragma once
-// Shared set-up of the window tests: a program folder of their own, a
-// window whose questions are answered from a script, and the pointer moves
-// of a drag on the board picture.
+// Shared set-up of the window tests: a main that keeps every file they and Qt write inside one temporary
+// folder, a program folder of their own, a window whose questions are answered from a script, a bounded
+// wait in a modal dialog, and the pointer moves of a drag on the board picture.
 #include <QApplication>
+#include <QDeadlineTimer>
+#include <QDialog>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QListWidget>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <QtTest>
 #include <deque>
+#include <functional>
 #include <map>
 #include <string>
 #include <utility>
@@ -20,6 +26,59 @@
 #include "ui/MainWindow.h"
 
 namespace jv::uitest {
+
+// Runs a test class with a home, configuration, data, cache, runtime and temporary folder of its own, all
+// inside one temporary folder removed at the end: Qt's own files (the file dialog's history) and every
+// program folder of the tests land there, never in the user's home.
+template <typename Test>
+int RunWindowTest(int argc, char** argv) {
+    QTemporaryDir root(QDir::tempPath() + "/" + QFileInfo(argv[0]).fileName() + "-XXXXXX");
+    if (!root.isValid()) return 1;
+    for (const char* name : {"HOME", "TMPDIR", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"}) {
+        const QString path = root.filePath(name);
+        QDir().mkpath(path);
+        QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);   // as a runtime folder must be
+        qputenv(name, QFile::encodeName(path));
+    }
+    QApplication app(argc, argv);
+    QApplication::setAttribute(Qt::AA_Use96Dpi, true);   // as QTEST_MAIN does: pictures measured in pixels
+    Test test;
+    return QTest::qExec(&test, argc, argv);
+}
+#define WINDOW_TEST_MAIN(Test) \
+    int main(int argc, char** argv) { return jv::uitest::RunWindowTest<Test>(argc, argv); }
+
+// How long a modal dialog may stay open after the test has answered it.
+constexpr int AnsweredDialogLimitMs = 5000;
+
+// Runs open, which opens a modal dialog of type T and waits in it, and hands the dialog to answer once it is
+// up. Gives what went wrong, "" when nothing: no such dialog came, or it was still open a while after the
+// answer, in which case it is closed so that open returns.
+template <typename T>
+QString WhileOpen(const std::function<void()>& open, const std::function<void(T*)>& answer) {
+    QPointer<T> dialog;
+    bool came = false;
+    QDeadlineTimer deadline(QDeadlineTimer::Forever);   // until the answer has been given
+    bool stuck = false;
+    QTimer poll;
+    poll.setInterval(10);
+    QObject::connect(&poll, &QTimer::timeout, [&] {
+        if (!came) {
+            dialog = qobject_cast<T*>(QApplication::activeModalWidget());
+            if (dialog.isNull()) return;
+            came = true;
+            answer(dialog);
+            deadline.setRemainingTime(AnsweredDialogLimitMs);
+        } else if (!dialog.isNull() && dialog->isVisible() && deadline.hasExpired()) {
+            stuck = true;
+            dialog->reject();
+        }
+    });
+    poll.start();
+    open();
+    if (!came) return "no " + QString(T::staticMetaObject.className()) + " was opened";
+    return stuck ? QString(T::staticMetaObject.className()) + " still open after its answer; closed" : QString();
+}
 
 // A temporary program folder holding the shipped data files.
 class ProgramFolder {
