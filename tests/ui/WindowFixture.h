@@ -2,23 +2,12 @@
 // Shared set-up of the window tests: a main that keeps every file they and Qt write inside one temporary
 // folder, a program folder of their own, a window whose questions are answered from a script, a bounded
 // wait in a modal dialog, and the pointer moves of a drag on the board picture.
-#include <QApplication>
-#include <QDeadlineTimer>
-#include <QDialog>
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QListWidget>
-#include <QMouseEvent>
-#include <QPointer>
-#include <QTemporaryDir>
-#include <QTimer>
 #include <QtTest>
+#include <QtWidgets>
 #include <deque>
 #include <functional>
 #include <map>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "core/Game.h"
@@ -28,8 +17,8 @@
 namespace jv::uitest {
 
 // Runs a test class with a home, configuration, data, cache, runtime and temporary folder of its own, all
-// inside one temporary folder removed at the end: Qt's own files (the file dialog's history) and every
-// program folder of the tests land there, never in the user's home.
+// in one temporary folder removed at the end: Qt's own files (the file dialog's history) and every program
+// folder of the tests land there, never in the user's home.
 template <typename Test>
 int RunWindowTest(int argc, char** argv) {
     QTemporaryDir root(QDir::tempPath() + "/" + QFileInfo(argv[0]).fileName() + "-XXXXXX");
@@ -48,36 +37,29 @@ int RunWindowTest(int argc, char** argv) {
 #define WINDOW_TEST_MAIN(Test) \
     int main(int argc, char** argv) { return jv::uitest::RunWindowTest<Test>(argc, argv); }
 
-// How long a modal dialog may stay open after the test has answered it.
-constexpr int AnsweredDialogLimitMs = 5000;
-
 // Runs open, which opens a modal dialog of type T and waits in it, and hands the dialog to answer once it is
-// up. Gives what went wrong, "" when nothing: no such dialog came, or it was still open a while after the
-// answer, in which case it is closed so that open returns.
+// up. Gives what went wrong, "" when nothing: no such dialog came, or it was still open five seconds after
+// the answer, and was then closed so that open returns.
 template <typename T>
 QString WhileOpen(const std::function<void()>& open, const std::function<void(T*)>& answer) {
     QPointer<T> dialog;
-    bool came = false;
+    bool came = false, stuck = false;
     QDeadlineTimer deadline(QDeadlineTimer::Forever);   // until the answer has been given
-    bool stuck = false;
     QTimer poll;
-    poll.setInterval(10);
     QObject::connect(&poll, &QTimer::timeout, [&] {
-        if (!came) {
-            dialog = qobject_cast<T*>(QApplication::activeModalWidget());
-            if (dialog.isNull()) return;
+        if (!came && (dialog = qobject_cast<T*>(QApplication::activeModalWidget()))) {
             came = true;
             answer(dialog);
-            deadline.setRemainingTime(AnsweredDialogLimitMs);
-        } else if (!dialog.isNull() && dialog->isVisible() && deadline.hasExpired()) {
+            deadline.setRemainingTime(5000);
+        } else if (dialog && dialog->isVisible() && deadline.hasExpired()) {
             stuck = true;
             dialog->reject();
         }
     });
-    poll.start();
+    poll.start(10);
     open();
-    if (!came) return "no " + QString(T::staticMetaObject.className()) + " was opened";
-    return stuck ? QString(T::staticMetaObject.className()) + " still open after its answer; closed" : QString();
+    const QString name = T::staticMetaObject.className();
+    return !came ? "no " + name + " was opened" : stuck ? name + " still open after its answer; closed" : QString();
 }
 
 // A temporary program folder holding the shipped data files.
@@ -85,18 +67,15 @@ class ProgramFolder {
 public:
     explicit ProgramFolder(bool withSchemes = true) {
         const QDir data(JARLSVAKT_DATA_DIR);
-        for (const QString& name : data.entryList(QDir::Files)) {
-            if (!withSchemes && name == "all.col") continue;
-            QFile::copy(data.filePath(name), dir_.filePath(name));
-        }
+        for (const QString& name : data.entryList(QDir::Files))
+            if (withSchemes || name != "all.col") QFile::copy(data.filePath(name), dir_.filePath(name));
     }
     std::string Path() const { return dir_.path().toStdString() + "/"; }
     std::string File(const std::string& name) const { return Path() + name; }
     bool Exists(const std::string& name) const { return QFile::exists(QString::fromStdString(File(name))); }
     std::string Read(const std::string& name) const {
         QFile file(QString::fromStdString(File(name)));
-        if (!file.open(QIODevice::ReadOnly)) return "";
-        return file.readAll().toStdString();
+        return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : "";
     }
     void Write(const std::string& name, const std::string& content) const {
         QFile file(QString::fromStdString(File(name)));
@@ -107,73 +86,29 @@ private:
     QTemporaryDir dir_;
 };
 
-// The questions the window put, and the answers it gets.
+// The questions the window put, and the answers it gets: one kept for a question whenever it is put, else
+// the next of the script, else the default.
 struct Questions {
     std::vector<std::pair<std::string, std::string>> Asked;   // text, style
     std::deque<int> Answers;
-    int DefaultAnswer = 1;
-    // Answers kept for one question whenever it is put, before the script.
     std::map<std::string, int> AnswerTo;
 
     void AnswerFor(ui::MainWindow& window) {
         window.Answerer = [this](const std::string& text, const std::string& style) {
             Asked.emplace_back(text, style);
             if (auto fixed = AnswerTo.find(text); fixed != AnswerTo.end()) return fixed->second;
-            if (Answers.empty()) return DefaultAnswer;
+            if (Answers.empty()) return 1;
             const int answer = Answers.front();
             Answers.pop_front();
             return answer;
         };
     }
     bool WasAsked(const std::string& text) const {
-        for (const auto& [t, s] : Asked)
-            if (t == text) return true;
-        return false;
+        return std::any_of(Asked.begin(), Asked.end(), [&](const auto& q) { return q.first == text; });
     }
 };
 
-// A window started in its own program folder, shown, its questions
-// answered from a script and its pauses cut to nothing.
-struct StartedWindow {
-    ProgramFolder folder;
-    ui::MainWindow window{folder.Path()};
-    Questions questions;
-    StartedWindow() {
-        questions.AnswerFor(window);
-        window.PauseLimit = 0;
-        window.Start();
-        window.show();
-        (void)QTest::qWaitForWindowExposed(&window);
-    }
-    template <typename T>
-    T* Find(const char* name) {
-        return window.findChild<T*>(name);
-    }
-};
-
-// A layout line of a board built from one text per Col, one character per
-// Row: '.' empty, 'd' defender, 'a' attacker, 'K' the King, 'H' a corner.
-inline std::string LayoutText(std::initializer_list<const char*> cols) {
-    const int width = static_cast<int>(cols.size());
-    const int height = static_cast<int>(std::string(*cols.begin()).size());
-    int kingCol = 0, kingRow = 0, col = 0;
-    std::string squares;
-    for (const char* text : cols) {
-        ++col;
-        for (int row = 1; row <= height; ++row) {
-            const char c = text[row - 1];
-            if (c == 'K') {
-                kingCol = col;
-                kingRow = row;
-            }
-            squares += c == 'a' ? '1' : (c == 'd' || c == 'K') ? '0' : c == 'H' ? 'H' : 'E';
-        }
-    }
-    auto two = [](int n) { return std::string(1, static_cast<char>('0' + n / 10)) + static_cast<char>('0' + n % 10); };
-    return two(width) + two(height) + two(kingCol) + two(kingRow) + squares + "\r\n";
-}
-
-// Sends one mouse event to the board picture at a pixel position.
+// Sends one mouse event to the board picture at the centre of a square.
 inline void SendMouse(ui::BoardPicture* picture, QEvent::Type type, QPoint at, Qt::MouseButtons held) {
     const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
     QMouseEvent event(type, at, picture->mapToGlobal(at), button, held, Qt::NoModifier);
@@ -188,6 +123,62 @@ inline void Drag(ui::BoardPicture* picture, Square from, Square to) {
     SendMouse(picture, QEvent::MouseMove, (start + end) / 2, Qt::LeftButton);
     SendMouse(picture, QEvent::MouseMove, end, Qt::LeftButton);
     SendMouse(picture, QEvent::MouseButtonRelease, end, Qt::NoButton);
+}
+
+// A window (MainWindow or one made for a test) started in its own program folder, shown, its questions
+// answered from a script, its files chosen from a list and its pauses cut to nothing.
+template <typename Window = ui::MainWindow>
+struct Started {
+    ProgramFolder folder;
+    Window window{folder.Path()};
+    Questions questions;
+    std::deque<std::string> Files;   // the file dialog's answers, in order, in the program folder
+
+    explicit Started(int pauseLimit = 0) {
+        questions.AnswerFor(window);
+        window.FileChooser = [this](FileMode, const std::string&) {
+            const std::string name = Files.empty() ? "" : Files.front();
+            if (!Files.empty()) Files.pop_front();
+            return name;
+        };
+        window.PauseLimit = pauseLimit;
+        window.Start();
+        window.show();
+        (void)QTest::qWaitForWindowExposed(&window);
+    }
+    template <typename T = QAbstractButton>
+    T* Find(const char* name) {
+        return window.template findChild<T*>(name);
+    }
+    Game& g() { return window.game(); }
+    ui::BoardPicture* Board() { return window.Board(); }
+    void Press(const char* name) { QTest::mouseClick(Find<QWidget>(name), Qt::LeftButton); }
+    void Drag(Square from, Square to) { uitest::Drag(Board(), from, to); }
+    QImage Picture() { return Board()->Pixmap().toImage(); }
+    QColor At(int col, int row) { return Picture().pixelColor(Board()->SquareCentre(col, row)); }
+    // Loads a layout written to the program folder through the load command.
+    void Load(const std::string& name, const std::string& content) {
+        folder.Write(name, content);
+        Files = {name};
+        Press("cmdload");
+    }
+};
+using StartedWindow = Started<>;
+
+// A layout line of a board built from one text per Col, one character per Row: '.' empty, 'd' defender,
+// 'a' attacker, 'K' the King, 'H' a corner.
+inline std::string LayoutText(std::initializer_list<const char*> cols) {
+    auto two = [](int n) { return std::string{static_cast<char>('0' + n / 10), static_cast<char>('0' + n % 10)}; };
+    int kingCol = 0, kingRow = 0, col = 0;
+    std::string squares;
+    for (const std::string text : cols) {
+        ++col;
+        for (std::size_t row = 0; row < text.size(); ++row) {
+            if (text[row] == 'K') kingCol = col, kingRow = static_cast<int>(row) + 1;
+            squares += text[row] == 'a' ? '1' : text[row] == 'd' || text[row] == 'K' ? '0' : text[row] == 'H' ? 'H' : 'E';
+        }
+    }
+    return two(col) + two(static_cast<int>(squares.size()) / col) + two(kingCol) + two(kingRow) + squares + "\r\n";
 }
 
 // The lines of a list widget.
