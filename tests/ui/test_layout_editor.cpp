@@ -1,14 +1,9 @@
 // The layout editor on the real window: the palette beside the board, clicks placing the chosen kind, the
 // commands that wait while it is on, and the King's column when the editor is switched off.
-#include <QAction>
-#include <QCheckBox>
-#include <QLabel>
-#include <QPushButton>
 
 #include "WindowFixture.h"
 #include "core/LayoutEditor.h"
 #include "records/PositionRecord.h"
-#include "ui/widgets/PictureButton.h"
 
 using namespace jv;
 using namespace jv::uitest;
@@ -16,9 +11,7 @@ using namespace jv::uitest;
 namespace {
 
 struct Editing : StartedWindow {
-    Game& g() { return window.game(); }
     QWidget* palette() { return Find<QWidget>("Picture2"); }
-    void Press(const char* name) { Find<QAbstractButton>(name)->click(); }
     void Send(QEvent::Type type, int col, int row, Qt::MouseButtons held) {
         SendMouse(window.Board(), type, window.Board()->SquareCentre(col, row), held);
     }
@@ -26,7 +19,6 @@ struct Editing : StartedWindow {
         Send(QEvent::MouseButtonPress, col, row, Qt::LeftButton);
         Send(QEvent::MouseButtonRelease, col, row, Qt::NoButton);
     }
-    QColor At(int col, int row) { return window.Board()->Pixmap().toImage().pixelColor(window.Board()->SquareCentre(col, row)); }
 };
 
 }  // namespace
@@ -34,85 +26,81 @@ struct Editing : StartedWindow {
 class TestLayoutEditor : public QObject {
     Q_OBJECT
 private slots:
-    void OnAndOffWithoutAChangeKeepsThePositionAndTheKing();
-    void CommandsDoNothingWhileTheEditorIsOn();
-    void ClicksPlaceTheChosenKindAndAKingMovedToAnotherRowLosesHisColumn();
+    void OnAndOffWithoutAChangeKeepsThePositionAndTheKing() {
+        // The editor button shows the palette beside the board at its height; pressed again it plays the
+        // same position from "temporarylayout.txt", the King where he was.
+        Editing s;
+        const std::string before = EncodePosition(s.g());
+        s.Press("cmdedit");
+        QVERIFY(s.palette()->isVisible());
+        QCOMPARE(s.palette()->height(), s.Board()->height());
+        QVERIFY(s.palette()->geometry().left() >= s.Board()->geometry().right());
+        QCOMPARE(s.Find<QPushButton>("cmdedit")->text(), QString("Play Layout"));
+        s.Press("cmdedit");
+        QVERIFY(s.palette()->isHidden());
+        QCOMPARE(EncodePosition(s.g()), before);
+        QCOMPARE(std::pair(s.g().KingCol, s.g().KingRow), std::pair(6, 6));
+        QCOMPARE(s.Find<QLabel>("LayoutName")->text(), QString("temporarylayout.txt"));
+        QCOMPARE(s.folder.Read("temporarylayout.txt"), "1111" + before + "\r\n");
+        QVERIFY(s.questions.Asked.empty());
+    }
+
+    void CommandsDoNothingWhileTheEditorIsOn() {
+        // While the editor is on, load, save, reset, undo and recording do nothing: no question, no file
+        // dialog, the undo history and the position as they were.
+        Editing s;
+        s.Drag({5, 5}, {3, 5});   // a user move and the computer's answer
+        const std::size_t undoEntries = s.g().Undo.size();
+        const std::string position = EncodePosition(s.g());
+        s.Press("cmdedit");
+        s.questions.Asked.clear();
+        int filesChosen = 0;
+        s.window.FileChooser = [&](FileMode, const std::string&) { return ++filesChosen, s.folder.File("pattern1.txt"); };
+        for (const char* name : {"cmdload", "cmdsave", "cmdreset", "cmdundo", "Check2"}) s.Press(name);
+        for (const char* name : {"mnuloadgame", "mnusavegame", "mnuresetgame"}) s.Find<QAction>(name)->trigger();
+        QVERIFY(s.questions.Asked.empty());
+        QCOMPARE(filesChosen, 0);
+        QCOMPARE(s.Find<QListWidget>("Undo")->count(), static_cast<int>(undoEntries));
+        QCOMPARE(EncodePosition(s.g()), position);
+        QVERIFY(s.g().MovesLogFile.empty());
+        QVERIFY(s.palette()->isVisible());
+    }
+
+    void ClicksPlaceTheChosenKindAndAKingMovedToAnotherRowLosesHisColumn() {
+        // A click places the palette's kind in the editor, shown at once while the board itself waits; a sweep
+        // places it on every square passed; the corners stay Home. The King moved to another row is left with
+        // column 0 and his old row, his square a plain defender.
+        Editing s;
+        s.Press("cmdedit");
+        const QColor attacker = s.At(1, 6), defender = s.At(5, 6);   // as the narrower board shows them
+        s.Click(3, 3);
+        QCOMPARE(s.g().EditorGrid(3, 3), AttackerCode);
+        QCOMPARE(s.g().Board(3, 3), EmptyCode);
+        QCOMPARE(s.At(3, 3), attacker);
+        s.Click(1, 1);
+        QCOMPARE(s.g().EditorGrid(1, 1), HomeCode);
+
+        s.Press("KindDefender");
+        s.Send(QEvent::MouseButtonPress, 9, 2, Qt::LeftButton);
+        for (int row = 3; row <= 4; ++row) s.Send(QEvent::MouseMove, 9, row, Qt::LeftButton);
+        s.Send(QEvent::MouseButtonRelease, 9, 4, Qt::NoButton);
+        s.Send(QEvent::MouseMove, 9, 5, Qt::NoButton);
+        for (int row = 2; row <= 4; ++row) QCOMPARE(s.g().EditorGrid(9, row), DefenderCode);
+        QCOMPARE(s.g().EditorGrid(9, 5), EmptyCode);
+        QCOMPARE(s.At(9, 3), defender);
+
+        s.Press("KindKing");
+        s.Click(6, 9);
+        QCOMPARE(s.g().EditorGrid(6, 9), EditorKingCode);
+        QCOMPARE(s.g().EditorGrid(6, 6), EmptyCode);
+        s.Press("cmdedit");
+        QCOMPARE(std::pair(s.g().KingCol, s.g().KingRow), std::pair(0, 6));
+        QCOMPARE(s.g().Board(6, 9), DefenderCode);
+        QCOMPARE(s.g().Board(6, 6), EmptyCode);
+        QCOMPARE(s.At(6, 9), s.At(5, 6));   // drawn as the defender beside the old square
+        QCOMPARE(s.folder.Read("temporarylayout.txt").substr(0, 8), std::string("11110006"));
+    }
 };
-
-void TestLayoutEditor::OnAndOffWithoutAChangeKeepsThePositionAndTheKing() {
-    // The editor button shows the palette beside the board at its height; pressed again it plays the
-    // same position from "temporarylayout.txt", the King where he was.
-    Editing s;
-    const std::string before = EncodePosition(s.g());
-    s.Press("cmdedit");
-    QVERIFY(s.palette()->isVisible());
-    QCOMPARE(s.palette()->height(), s.window.Board()->height());
-    QVERIFY(s.palette()->geometry().left() >= s.window.Board()->geometry().right());
-    QCOMPARE(s.Find<QPushButton>("cmdedit")->text(), QString("Play Layout"));
-    s.Press("cmdedit");
-    QVERIFY(s.palette()->isHidden());
-    QCOMPARE(EncodePosition(s.g()), before);
-    QCOMPARE(std::pair(s.g().KingCol, s.g().KingRow), std::pair(6, 6));
-    QCOMPARE(s.Find<QLabel>("LayoutName")->text(), QString("temporarylayout.txt"));
-    QCOMPARE(s.folder.Read("temporarylayout.txt"), "1111" + before + "\r\n");
-    QVERIFY(s.questions.Asked.empty());
-}
-
-void TestLayoutEditor::CommandsDoNothingWhileTheEditorIsOn() {
-    // While the editor is on, load, save, reset, undo and recording do nothing: no question, no file
-    // dialog, the undo history and the position as they were.
-    Editing s;
-    Drag(s.window.Board(), {5, 5}, {3, 5});   // a user move and the computer's answer
-    const std::size_t undoEntries = s.g().Undo.size();
-    const std::string position = EncodePosition(s.g());
-    s.Press("cmdedit");
-    s.questions.Asked.clear();
-    int filesChosen = 0;
-    s.window.FileChooser = [&](FileMode, const std::string&) { return ++filesChosen, s.folder.File("pattern1.txt"); };
-    for (const char* name : {"cmdload", "cmdsave", "cmdreset", "cmdundo", "Check2"}) s.Press(name);
-    for (const char* name : {"mnuloadgame", "mnusavegame", "mnuresetgame"}) s.Find<QAction>(name)->trigger();
-    QVERIFY(s.questions.Asked.empty());
-    QCOMPARE(filesChosen, 0);
-    QCOMPARE(s.Find<QListWidget>("Undo")->count(), static_cast<int>(undoEntries));
-    QCOMPARE(EncodePosition(s.g()), position);
-    QVERIFY(s.g().MovesLogFile.empty());
-    QVERIFY(s.palette()->isVisible());
-}
-
-void TestLayoutEditor::ClicksPlaceTheChosenKindAndAKingMovedToAnotherRowLosesHisColumn() {
-    // A click places the palette's kind in the editor, shown at once while the board itself waits; a sweep
-    // places it on every square passed; the corners stay Home. The King moved to another row is left with
-    // column 0 and his old row, his square a plain defender.
-    Editing s;
-    s.Press("cmdedit");
-    const QColor attacker = s.At(1, 6), defender = s.At(5, 6);   // as the narrower board shows them
-    s.Click(3, 3);
-    QCOMPARE(s.g().EditorGrid(3, 3), AttackerCode);
-    QCOMPARE(s.g().Board(3, 3), EmptyCode);
-    QCOMPARE(s.At(3, 3), attacker);
-    s.Click(1, 1);
-    QCOMPARE(s.g().EditorGrid(1, 1), HomeCode);
-
-    s.palette()->findChild<ui::PictureButton*>("KindDefender")->click();
-    s.Send(QEvent::MouseButtonPress, 9, 2, Qt::LeftButton);
-    for (int row = 3; row <= 4; ++row) s.Send(QEvent::MouseMove, 9, row, Qt::LeftButton);
-    s.Send(QEvent::MouseButtonRelease, 9, 4, Qt::NoButton);
-    s.Send(QEvent::MouseMove, 9, 5, Qt::NoButton);
-    for (int row = 2; row <= 4; ++row) QCOMPARE(s.g().EditorGrid(9, row), DefenderCode);
-    QCOMPARE(s.g().EditorGrid(9, 5), EmptyCode);
-    QCOMPARE(s.At(9, 3), defender);
-
-    s.palette()->findChild<ui::PictureButton*>("KindKing")->click();
-    s.Click(6, 9);
-    QCOMPARE(s.g().EditorGrid(6, 9), EditorKingCode);
-    QCOMPARE(s.g().EditorGrid(6, 6), EmptyCode);
-    s.Press("cmdedit");
-    QCOMPARE(std::pair(s.g().KingCol, s.g().KingRow), std::pair(0, 6));
-    QCOMPARE(s.g().Board(6, 9), DefenderCode);
-    QCOMPARE(s.g().Board(6, 6), EmptyCode);
-    QCOMPARE(s.At(6, 9), s.At(5, 6));   // drawn as the defender beside the old square
-    QCOMPARE(s.folder.Read("temporarylayout.txt").substr(0, 8), std::string("11110006"));
-}
 
 WINDOW_TEST_MAIN(TestLayoutEditor)
 #include "test_layout_editor.moc"

@@ -1,6 +1,5 @@
 // The message box: the style text picks the picture and the buttons, and the box answers with the number
 // of the button pressed, or Cancel when closed without one.
-#include <QtTest>
 
 #include "WindowFixture.h"
 #include "ui/MsgForm.h"
@@ -22,101 +21,95 @@ MsgFormButton* Button(MsgForm* form, const QString& caption) {
 class TestMsgForm : public QObject {
     Q_OBJECT
 private slots:
-    void StyleWordsPickPictureAndButtons_data();
-    void StyleWordsPickPictureAndButtons();
-    void AnswersTheButtonPressedOrCancel_data();
-    void AnswersTheButtonPressedOrCancel();
-    void ButtonsNeverStayPressed();
+    void StyleWordsPickPictureAndButtons_data() {
+        QTest::addColumn<QString>("style");
+        QTest::addColumn<int>("picture");   // index of the picture keyword, -1 for none
+        QTest::addColumn<QString>("buttons");   // caption:number, left to right
+        QTest::newRow("any order") << "vbYesNo+vbquestion" << 8 << "Yes:6 No:7";
+        QTest::newRow("blanks and capitals") << "VBQUESTION + vbYesNo" << 8 << "Yes:6 No:7";
+        QTest::newRow("picture alone gives Ok") << "vbcritical" << 5 << "Ok:1";
+        QTest::newRow("unknown words ignored") << "vbokk+vbbogus" << -1 << "Ok:1";
+        QTest::newRow("last button word wins") << "vbyesno+vbretrycancel" << -1 << "Retry:4 Cancel:2";
+        QTest::newRow("Continue is Yes") << "vbcontinuecancel" << -1 << "Continue:6 Cancel:2";
+        QTest::newRow("normal Ok answers 0") << "vbnormal+vbinformation" << 9 << "Ok:0";
+    }
+
+    void StyleWordsPickPictureAndButtons() {
+        // Style words in any case and order, blanks round them ignored, pick one picture and the buttons; the
+        // text's CR LF is a line break under the title "Message".
+        QFETCH(QString, style);
+        QFETCH(int, picture);
+        QFETCH(QString, buttons);
+        MsgForm form;
+        form.Prepare("King Captured !\r\nClick Reset", style.toStdString());
+        QCOMPARE(form.PictureShown(), picture);
+        QStringList shown;
+        for (MsgFormButton* b : form.Buttons()) shown << b->text() + ":" + QString::number(b->Number());
+        QCOMPARE(shown.join(" "), buttons);
+        QCOMPARE(form.Text(), QString("King Captured !\nClick Reset"));
+        QCOMPARE(form.windowTitle(), QString("Message"));
+    }
+
+    void AnswersTheButtonPressedOrCancel_data() {
+        QTest::addColumn<QString>("style");
+        QTest::addColumn<QString>("how");   // "click X", "enter X" (X focused), "close", "escape"
+        QTest::addColumn<int>("answer");
+        QTest::newRow("No clicked") << "vbquestion+vbyesno" << "click No" << 7;
+        QTest::newRow("Continue clicked") << "vbcontinuecancel" << "click Continue" << 6;
+        QTest::newRow("Enter on the focused button") << "vbYesNoCancel" << "enter No" << 7;
+        QTest::newRow("closed by the frame") << "vbyesno" << "close" << 2;
+        QTest::newRow("Escape") << "vbyesno" << "escape" << 2;
+    }
+
+    void AnswersTheButtonPressedOrCancel() {
+        // The box answers the number of the button clicked, or pressed with Enter while it has the focus (not
+        // the first one); closed without a button it answers 2, Cancel.
+        QFETCH(QString, style);
+        QFETCH(QString, how);
+        QFETCH(int, answer);
+        MsgForm form;
+        int answered = -1;
+        QCOMPARE(WhileOpen<MsgForm>([&] { answered = form.Show("Stop ?", style.toStdString()); },
+                                    [&](MsgForm* f) {
+                                        MsgFormButton* button = Button(f, how.section(' ', 1));
+                                        if (how == "close") f->close();
+                                        else if (how == "escape") QTest::keyClick(f, Qt::Key_Escape);
+                                        else if (how.startsWith("click")) QTest::mouseClick(button, Qt::LeftButton);
+                                        else {
+                                            button->setFocus();
+                                            QTest::keyClick(button, Qt::Key_Return);
+                                        }
+                                    }),
+                 QString());
+        QCOMPARE(answered, answer);
+    }
+
+    void ButtonsNeverStayPressed() {
+        // The space bar neither presses nor answers, and focus changes leave no button pressed.
+        MsgForm form;
+        bool downAfterSpace = true, downAfterFocus = true;
+        int answered = -1;
+        QCOMPARE(WhileOpen<MsgForm>([&] { answered = form.Show("text", "vbyesno"); },
+                                    [&](MsgForm* f) {
+                                        MsgFormButton* yes = Button(f, "Yes");
+                                        MsgFormButton* no = Button(f, "No");
+                                        f->activateWindow();   // focus changes reach only the active window
+                                        QVERIFY(QTest::qWaitForWindowActive(f));
+                                        yes->setFocus();
+                                        QTest::keyPress(yes, Qt::Key_Space);
+                                        downAfterSpace = yes->isDown();
+                                        QTest::keyRelease(yes, Qt::Key_Space);
+                                        yes->setDown(true);
+                                        no->setFocus();
+                                        downAfterFocus = yes->isDown() || no->isDown();
+                                        QTest::mouseClick(no, Qt::LeftButton);
+                                    }),
+                 QString());
+        QCOMPARE(answered, 7);
+        QVERIFY(!downAfterSpace);
+        QVERIFY(!downAfterFocus);
+    }
 };
-
-void TestMsgForm::StyleWordsPickPictureAndButtons_data() {
-    QTest::addColumn<QString>("style");
-    QTest::addColumn<int>("picture");   // index of the picture keyword, -1 for none
-    QTest::addColumn<QString>("buttons");   // caption:number, left to right
-    QTest::newRow("any order") << "vbYesNo+vbquestion" << 8 << "Yes:6 No:7";
-    QTest::newRow("blanks and capitals") << "VBQUESTION + vbYesNo" << 8 << "Yes:6 No:7";
-    QTest::newRow("picture alone gives Ok") << "vbcritical" << 5 << "Ok:1";
-    QTest::newRow("unknown words ignored") << "vbokk+vbbogus" << -1 << "Ok:1";
-    QTest::newRow("last button word wins") << "vbyesno+vbretrycancel" << -1 << "Retry:4 Cancel:2";
-    QTest::newRow("Continue is Yes") << "vbcontinuecancel" << -1 << "Continue:6 Cancel:2";
-    QTest::newRow("normal Ok answers 0") << "vbnormal+vbinformation" << 9 << "Ok:0";
-}
-
-void TestMsgForm::StyleWordsPickPictureAndButtons() {
-    // Style words in any case and order, blanks round them ignored, pick one picture and the buttons; the
-    // text's CR LF is a line break under the title "Message".
-    QFETCH(QString, style);
-    QFETCH(int, picture);
-    QFETCH(QString, buttons);
-    MsgForm form;
-    form.Prepare("King Captured !\r\nClick Reset", style.toStdString());
-    QCOMPARE(form.PictureShown(), picture);
-    QStringList shown;
-    for (MsgFormButton* b : form.Buttons()) shown << b->text() + ":" + QString::number(b->Number());
-    QCOMPARE(shown.join(" "), buttons);
-    QCOMPARE(form.Text(), QString("King Captured !\nClick Reset"));
-    QCOMPARE(form.windowTitle(), QString("Message"));
-}
-
-void TestMsgForm::AnswersTheButtonPressedOrCancel_data() {
-    QTest::addColumn<QString>("style");
-    QTest::addColumn<QString>("how");   // "click X", "enter X" (X focused), "close", "escape"
-    QTest::addColumn<int>("answer");
-    QTest::newRow("No clicked") << "vbquestion+vbyesno" << "click No" << 7;
-    QTest::newRow("Continue clicked") << "vbcontinuecancel" << "click Continue" << 6;
-    QTest::newRow("Enter on the focused button") << "vbYesNoCancel" << "enter No" << 7;
-    QTest::newRow("closed by the frame") << "vbyesno" << "close" << 2;
-    QTest::newRow("Escape") << "vbyesno" << "escape" << 2;
-}
-
-void TestMsgForm::AnswersTheButtonPressedOrCancel() {
-    // The box answers the number of the button clicked, or pressed with Enter while it has the focus (not
-    // the first one); closed without a button it answers 2, Cancel.
-    QFETCH(QString, style);
-    QFETCH(QString, how);
-    QFETCH(int, answer);
-    MsgForm form;
-    int answered = -1;
-    QCOMPARE(WhileOpen<MsgForm>([&] { answered = form.Show("Stop ?", style.toStdString()); },
-                                [&](MsgForm* f) {
-                                    MsgFormButton* button = Button(f, how.section(' ', 1));
-                                    if (how == "close") f->close();
-                                    else if (how == "escape") QTest::keyClick(f, Qt::Key_Escape);
-                                    else if (how.startsWith("click")) QTest::mouseClick(button, Qt::LeftButton);
-                                    else {
-                                        button->setFocus();
-                                        QTest::keyClick(button, Qt::Key_Return);
-                                    }
-                                }),
-             QString());
-    QCOMPARE(answered, answer);
-}
-
-void TestMsgForm::ButtonsNeverStayPressed() {
-    // The space bar neither presses nor answers, and focus changes leave no button pressed.
-    MsgForm form;
-    bool downAfterSpace = true, downAfterFocus = true;
-    int answered = -1;
-    QCOMPARE(WhileOpen<MsgForm>([&] { answered = form.Show("text", "vbyesno"); },
-                                [&](MsgForm* f) {
-                                    MsgFormButton* yes = Button(f, "Yes");
-                                    MsgFormButton* no = Button(f, "No");
-                                    f->activateWindow();   // focus changes reach only the active window
-                                    QVERIFY(QTest::qWaitForWindowActive(f));
-                                    yes->setFocus();
-                                    QTest::keyPress(yes, Qt::Key_Space);
-                                    downAfterSpace = yes->isDown();
-                                    QTest::keyRelease(yes, Qt::Key_Space);
-                                    yes->setDown(true);
-                                    no->setFocus();
-                                    downAfterFocus = yes->isDown() || no->isDown();
-                                    QTest::mouseClick(no, Qt::LeftButton);
-                                }),
-             QString());
-    QCOMPARE(answered, 7);
-    QVERIFY(!downAfterSpace);
-    QVERIFY(!downAfterFocus);
-}
 
 WINDOW_TEST_MAIN(TestMsgForm)
 #include "test_msgform.moc"

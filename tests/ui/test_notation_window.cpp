@@ -1,11 +1,5 @@
 // The window and the tafl world's notation: the load and save dialogs offer OpenTafl positions after the
 // game files, a name saved under a filter gets its ending, and the Game menu exports the game record.
-#include <QAction>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QFileDialog>
-#include <QLineEdit>
-#include <QPushButton>
 
 #include "WindowFixture.h"
 
@@ -32,81 +26,77 @@ void SaveAsAUserDoes(QFileDialog* dialog, const QString& filter, const QString& 
 class TestNotationWindow : public QObject {
     Q_OBJECT
 private slots:
-    void TheDialogsOfferTheirFilters_data();
-    void TheDialogsOfferTheirFilters();
-    void SavingUnderAFilterGivesItsEnding_data();
-    void SavingUnderAFilterGivesItsEnding();
-    void TheGameMenuExportsTheGameRecord();
+    void TheDialogsOfferTheirFilters_data() {
+        QTest::addColumn<QString>("command");
+        QTest::addColumn<QStringList>("filters");   // the one chosen first, then all
+        const QString games = "Game Files (*.txt)", positions = "OpenTafl positions (*.otn)";
+        QTest::newRow("load") << "cmdload" << QStringList{games, games, positions};
+        QTest::newRow("save") << "cmdsave" << QStringList{games, games, positions};
+        QTest::newRow("replay a moves log") << "cmdloadlog" << QStringList{games, games};
+    }
+
+    void TheDialogsOfferTheirFilters() {
+        // Loading and saving offer the game files first and chosen, then OpenTafl positions; cancelled, nothing
+        // is loaded, saved or replayed.
+        QFETCH(QString, command);
+        QFETCH(QStringList, filters);
+        StartedWindow s;
+        s.window.FileChooser = nullptr;   // the program's own dialog
+        QStringList offered;
+        QCOMPARE(WhileOpen<QFileDialog>([&] { s.Press(qPrintable(command)); },
+                                        [&](QFileDialog* dialog) {
+                                            offered = QStringList{dialog->selectedNameFilter()} + dialog->nameFilters();
+                                            QTest::keyClick(dialog, Qt::Key_Escape);
+                                        }),
+                 QString());
+        QCOMPARE(offered, filters);
+        QVERIFY(s.questions.Asked.empty());
+    }
+
+    void SavingUnderAFilterGivesItsEnding_data() {
+        QTest::addColumn<QString>("filter");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("saved");
+        QTest::newRow("OpenTafl ending added") << "OpenTafl positions (*.otn)" << "opening" << "opening.otn";
+        QTest::newRow("a name with a point kept") << "OpenTafl positions (*.otn)" << "opening.txt" << "opening.txt";
+        QTest::newRow("game file ending added") << "Game Files (*.txt)" << "opening" << "opening.txt";
+    }
+
+    void SavingUnderAFilterGivesItsEnding() {
+        // A name typed without a point gets the chosen filter's ending; an ".otn" file holds one OTN line, a
+        // game file the layout line as the game's own files have it.
+        QFETCH(QString, filter);
+        QFETCH(QString, typed);
+        QFETCH(QString, saved);
+        StartedWindow s;
+        s.window.FileChooser = nullptr;   // the program's own dialog
+        QCOMPARE(WhileOpen<QFileDialog>([&] { s.Press("cmdsave"); },
+                                        [&](QFileDialog* dialog) { SaveAsAUserDoes(dialog, filter, typed); }),
+                 QString());
+        const std::string name = saved.toStdString();
+        QCOMPARE(s.folder.Read(name), name.ends_with(".otn") ? std::string(OpeningOtn) : s.folder.Read("patf.txt"));
+        QVERIFY(s.questions.WasAsked("Game saved to file:\r\n" + s.folder.File(name)));
+    }
+
+    void TheGameMenuExportsTheGameRecord() {
+        // Game > "Export game record..." writes the moves of the undo history in standard notation.
+        StartedWindow s;
+        auto* exportRecord = s.Find<QAction>("mnuexportrecord");
+        QCOMPARE(exportRecord->text(), QString("&Export game record..."));
+        s.Find<QCheckBox>("Check1")->setChecked(false);   // no reply: one move to write
+        s.Drag({4, 6}, {4, 3});   // D6 > D3, f8-c8
+        s.window.FileChooser = [&](FileMode mode, const std::string& title) {
+            return mode == FileMode::Save && title == "Select an output file for the game record"
+                       ? s.folder.File("record.txt")
+                       : std::string();
+        };
+        exportRecord->trigger();
+        const std::string patf = s.folder.Read("patf.txt");
+        QCOMPARE(s.folder.Read("record.txt"),
+                 "[layout \"" + patf.substr(0, patf.size() - 2) + "\"]\r\n[size \"11x11\"]\r\n\r\n1. f8-c8\r\n");
+        QVERIFY(s.questions.WasAsked("Game record saved to file:\r\n" + s.folder.File("record.txt")));
+    }
 };
-
-void TestNotationWindow::TheDialogsOfferTheirFilters_data() {
-    QTest::addColumn<QString>("command");
-    QTest::addColumn<QStringList>("filters");   // the one chosen first, then all
-    const QString games = "Game Files (*.txt)", positions = "OpenTafl positions (*.otn)";
-    QTest::newRow("load") << "cmdload" << QStringList{games, games, positions};
-    QTest::newRow("save") << "cmdsave" << QStringList{games, games, positions};
-    QTest::newRow("replay a moves log") << "cmdloadlog" << QStringList{games, games};
-}
-
-void TestNotationWindow::TheDialogsOfferTheirFilters() {
-    // Loading and saving offer the game files first and chosen, then OpenTafl positions; cancelled, nothing
-    // is loaded, saved or replayed.
-    QFETCH(QString, command);
-    QFETCH(QStringList, filters);
-    StartedWindow s;
-    QStringList offered;
-    QCOMPARE(WhileOpen<QFileDialog>([&] { s.Find<QPushButton>(qPrintable(command))->click(); },
-                                    [&](QFileDialog* dialog) {
-                                        offered = QStringList{dialog->selectedNameFilter()} + dialog->nameFilters();
-                                        QTest::keyClick(dialog, Qt::Key_Escape);
-                                    }),
-             QString());
-    QCOMPARE(offered, filters);
-    QVERIFY(s.questions.Asked.empty());
-}
-
-void TestNotationWindow::SavingUnderAFilterGivesItsEnding_data() {
-    QTest::addColumn<QString>("filter");
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("saved");
-    QTest::newRow("OpenTafl ending added") << "OpenTafl positions (*.otn)" << "opening" << "opening.otn";
-    QTest::newRow("a name with a point kept") << "OpenTafl positions (*.otn)" << "opening.txt" << "opening.txt";
-    QTest::newRow("game file ending added") << "Game Files (*.txt)" << "opening" << "opening.txt";
-}
-
-void TestNotationWindow::SavingUnderAFilterGivesItsEnding() {
-    // A name typed without a point gets the chosen filter's ending; an ".otn" file holds one OTN line, a
-    // game file the layout line as the game's own files have it.
-    QFETCH(QString, filter);
-    QFETCH(QString, typed);
-    QFETCH(QString, saved);
-    StartedWindow s;
-    QCOMPARE(WhileOpen<QFileDialog>([&] { s.Find<QPushButton>("cmdsave")->click(); },
-                                    [&](QFileDialog* dialog) { SaveAsAUserDoes(dialog, filter, typed); }),
-             QString());
-    const std::string name = saved.toStdString();
-    QCOMPARE(s.folder.Read(name), name.ends_with(".otn") ? std::string(OpeningOtn) : s.folder.Read("patf.txt"));
-    QVERIFY(s.questions.WasAsked("Game saved to file:\r\n" + s.folder.File(name)));
-}
-
-void TestNotationWindow::TheGameMenuExportsTheGameRecord() {
-    // Game > "Export game record..." writes the moves of the undo history in standard notation.
-    StartedWindow s;
-    auto* exportRecord = s.Find<QAction>("mnuexportrecord");
-    QCOMPARE(exportRecord->text(), QString("&Export game record..."));
-    s.Find<QCheckBox>("Check1")->setChecked(false);   // no reply: one move to write
-    Drag(s.window.Board(), Square{4, 6}, Square{4, 3});   // D6 > D3, f8-c8
-    s.window.FileChooser = [&](FileMode mode, const std::string& title) {
-        return mode == FileMode::Save && title == "Select an output file for the game record"
-                   ? s.folder.File("record.txt")
-                   : std::string();
-    };
-    exportRecord->trigger();
-    const std::string patf = s.folder.Read("patf.txt");
-    QCOMPARE(s.folder.Read("record.txt"),
-             "[layout \"" + patf.substr(0, patf.size() - 2) + "\"]\r\n[size \"11x11\"]\r\n\r\n1. f8-c8\r\n");
-    QVERIFY(s.questions.WasAsked("Game record saved to file:\r\n" + s.folder.File("record.txt")));
-}
 
 WINDOW_TEST_MAIN(TestNotationWindow)
 #include "test_notation_window.moc"

@@ -1,12 +1,5 @@
 // The options dialog, Form2, opened from the Options menu of the real window: its controls, Apply, Default
 // and Exit, what survives a restart, and its colour picker's sliders.
-#include <QAction>
-#include <QComboBox>
-#include <QLabel>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QSignalSpy>
-#include <QSlider>
 
 #include "WindowFixture.h"
 #include "core/Session.h"
@@ -65,134 +58,128 @@ struct Options : StartedWindow {
 class TestOptionsDialog : public QObject {
     Q_OBJECT
 private slots:
-    void SymbolsWithAChosenPictureDrawThatPicture();
-    void DefaultThenApplyGivesTheDefaultConfiguration();
-    void ExitChangesNothing();
-    void TheDialogListsTheSchemesInFileOrderAndOnlyPictures();
-    void TheSlidersMakeTheColourShown();
+    void SymbolsWithAChosenPictureDrawThatPicture() {
+        // Clicking the Computer symbol, then a file, then Apply with "Symbols" draws the attackers with that
+        // picture at once; the configuration keeps it for the next run.
+        Options s;
+        QImage picture(32, 32, QImage::Format_RGB32);   // a bitmap loses its top-left pixel's colour: a border
+        picture.fill(Qt::white);
+        for (int y = 2; y < 30; ++y)
+            for (int x = 2; x < 30; ++x) picture.setPixelColor(x, y, Magenta);
+        picture.save(QString::fromStdString(s.folder.File("magenta.bmp")), "BMP");
+        s.Open([&] {
+            s.Press("Image1");
+            s.ChooseFile("magenta.bmp");
+            s.Press("Option2");
+            QVERIFY(s.At(1, 6) != Magenta);   // A6 holds an attacker; nothing changes before Apply
+            s.Press("Command1");
+            QCOMPARE(s.At(1, 6), Magenta);
+            QVERIFY(s.At(6, 6) != Magenta);
+        });
+        QCOMPARE(s.window.game().PictureFiles[1], std::string("magenta.bmp"));
+        QVERIFY(s.Configuration().find("\r\nmagenta.bmp\r\n") != std::string::npos);
+        ui::MainWindow again(s.folder.Path());
+        again.Start();
+        QCOMPARE(again.Board()->Pixmap().toImage().pixelColor(again.Board()->SquareCentre(1, 6)), Magenta);
+    }
+
+    void DefaultThenApplyGivesTheDefaultConfiguration() {
+        // After changing every option, Default then Apply brings the defaults back: "xp", "Sunk", the grid
+        // letters, "Symbols" with the four default pictures, the scheme's button colour; the configuration
+        // written at exit holds the default lines.
+        Options s;
+        s.Open([&] {
+            s.ChooseScheme("wood");
+            s.Press("Option3_1");
+            s.Press("Check1");
+            s.Press("Image3");
+            s.ChooseFile("king1.ico");
+            s.Control<ColourPicker>("ColPik1")->Slider(0)->setValue(200);
+            s.Press("cmdadjust4");
+            s.Press("Command1");
+        });
+        Game& g = s.window.game();
+        QCOMPARE(g.SchemeFile, std::string("wood.col"));
+        QCOMPARE(g.BoardStyle, 1);
+        QCOMPARE(g.ShowLabels, 0);
+        QCOMPARE(g.PictureFiles[3], std::string("king1.ico"));
+        QCOMPARE(s.Find<QPushButton>("cmdload")->palette().color(QPalette::Button), QColor(200, 0, 0));
+        s.Open([&] {
+            s.Press("Reset");
+            QCOMPARE(s.Control<QComboBox>("Combo1")->currentText(), QString("xp"));
+            QVERIFY(s.Control<QRadioButton>("Option3_0")->isChecked());
+            QCOMPARE(s.Control<QLabel>("Image1L")->palette().color(QPalette::Window), QColor(128, 0, 0));
+            s.Press("Command1");
+        });
+        QCOMPARE(g.ColourTable[2], ui::FromQColor(QColor(190, 206, 223)));   // xp's board colour, loaded
+        QCOMPARE(s.Find<QPushButton>("cmdload")->palette().color(QPalette::Button), QColor(241, 239, 226));
+        QCOMPARE(s.Configuration(), std::string("xp.col\r\npatf.txt\r\nplayer00.ico\r\nplayer10.ico\r\nhome0.ico\r\n"
+                                                "king0.ico\r\n32768 128 8421504 0\r\n0 1 1 0 0\r\n"));
+    }
+
+    void ExitChangesNothing() {
+        // Exit leaves the settings, the window and the board as they were, whatever the controls show.
+        Options s;
+        const Game before = s.window.game();
+        const QImage board = s.window.Board()->Pixmap().toImage();
+        s.Open([&] {
+            s.ChooseScheme("contrast");
+            s.Press("Option3_2");
+            s.Press("Check1");
+            s.Press("Option1");
+            s.Control<ColourPicker>("ColPik1")->Slider(2)->setValue(255);
+            s.Press("Image2");
+            s.ChooseFile("home1.ico");
+            s.Press("cmdadjust4");
+        });
+        const Game& g = s.window.game();
+        QVERIFY(std::tie(g.SchemeFile, g.BoardStyle, g.ShowLabels, g.ColourMode, g.PictureFiles, g.PieceColours,
+                         g.ColourTable) == std::tie(before.SchemeFile, before.BoardStyle, before.ShowLabels,
+                                                    before.ColourMode, before.PictureFiles, before.PieceColours,
+                                                    before.ColourTable));
+        QCOMPARE(s.window.Board()->Pixmap().toImage(), board);
+    }
+
+    void TheDialogListsTheSchemesInFileOrderAndOnlyPictures() {
+        // The scheme box lists every scheme of "all.col" in file order, the one in use chosen; the file list
+        // offers the pictures of the program folder and not its layouts.
+        Options s;
+        QStringList names;
+        for (const QByteArray& line : QByteArray::fromStdString(s.folder.Read("all.col")).split('\n'))
+            if (line.contains(".col")) names << QString::fromLatin1(line.left(line.indexOf(".col")));
+        QCOMPARE(names.size(), 6);
+        s.Open([&] {
+            auto* box = s.Control<QComboBox>("Combo1");
+            QStringList listed;
+            for (int i = 0; i < box->count(); ++i) listed << box->itemText(i);
+            QCOMPARE(listed, names);
+            QCOMPARE(box->currentText(), QString("xp"));
+            auto* files = s.Control<QListWidget>("File1");
+            QVERIFY(!files->findItems("player00.ico", Qt::MatchExactly).isEmpty());
+            QVERIFY(files->findItems("patf.txt", Qt::MatchExactly).isEmpty());
+        });
+    }
+
+    void TheSlidersMakeTheColourShown() {
+        // Moving the red, green and blue sliders makes the colour shown in the preview and reported with each
+        // move; a colour set by the program moves the sliders without a report.
+        ColourPicker picker;
+        picker.show();
+        QSignalSpy reported(&picker, &ColourPicker::ColourChanged);
+        picker.Slider(0)->setValue(200);
+        picker.Slider(1)->setValue(64);
+        picker.Slider(2)->setValue(9);
+        QTest::keyClick(picker.Slider(2), Qt::Key_Right);   // one step up with the keyboard
+        QCOMPARE(picker.Preview()->palette().color(QPalette::Window), QColor(200, 64, 10));
+        QCOMPARE(reported.size(), 4);
+        QCOMPARE(reported.front().front().value<QColor>(), QColor(200, 0, 0));
+        QCOMPARE(reported.back().front().value<QColor>(), QColor(200, 64, 10));
+        picker.SetColour(QColor(1, 2, 3));
+        QCOMPARE(reported.size(), 4);
+        QCOMPARE(picker.Slider(1)->value(), 2);
+        QCOMPARE(picker.Preview()->palette().color(QPalette::Window), QColor(1, 2, 3));
+    }
 };
-
-void TestOptionsDialog::SymbolsWithAChosenPictureDrawThatPicture() {
-    // Clicking the Computer symbol, then a file, then Apply with "Symbols" draws the attackers with that
-    // picture at once; the configuration keeps it for the next run.
-    Options s;
-    QImage picture(32, 32, QImage::Format_RGB32);   // a bitmap loses its top-left pixel's colour: a border
-    picture.fill(Qt::white);
-    for (int y = 2; y < 30; ++y)
-        for (int x = 2; x < 30; ++x) picture.setPixelColor(x, y, Magenta);
-    picture.save(QString::fromStdString(s.folder.File("magenta.bmp")), "BMP");
-    s.Open([&] {
-        s.Press("Image1");
-        s.ChooseFile("magenta.bmp");
-        s.Press("Option2");
-        QVERIFY(s.At(1, 6) != Magenta);   // A6 holds an attacker; nothing changes before Apply
-        s.Press("Command1");
-        QCOMPARE(s.At(1, 6), Magenta);
-        QVERIFY(s.At(6, 6) != Magenta);
-    });
-    QCOMPARE(s.window.game().PictureFiles[1], std::string("magenta.bmp"));
-    QVERIFY(s.Configuration().find("\r\nmagenta.bmp\r\n") != std::string::npos);
-    ui::MainWindow again(s.folder.Path());
-    again.Start();
-    QCOMPARE(again.Board()->Pixmap().toImage().pixelColor(again.Board()->SquareCentre(1, 6)), Magenta);
-}
-
-void TestOptionsDialog::DefaultThenApplyGivesTheDefaultConfiguration() {
-    // After changing every option, Default then Apply brings the defaults back: "xp", "Sunk", the grid
-    // letters, "Symbols" with the four default pictures, the scheme's button colour; the configuration
-    // written at exit holds the default lines.
-    Options s;
-    s.Open([&] {
-        s.ChooseScheme("wood");
-        s.Press("Option3_1");
-        s.Press("Check1");
-        s.Press("Image3");
-        s.ChooseFile("king1.ico");
-        s.Control<ColourPicker>("ColPik1")->Slider(0)->setValue(200);
-        s.Press("cmdadjust4");
-        s.Press("Command1");
-    });
-    Game& g = s.window.game();
-    QCOMPARE(g.SchemeFile, std::string("wood.col"));
-    QCOMPARE(g.BoardStyle, 1);
-    QCOMPARE(g.ShowLabels, 0);
-    QCOMPARE(g.PictureFiles[3], std::string("king1.ico"));
-    QCOMPARE(s.Find<QPushButton>("cmdload")->palette().color(QPalette::Button), QColor(200, 0, 0));
-    s.Open([&] {
-        s.Press("Reset");
-        QCOMPARE(s.Control<QComboBox>("Combo1")->currentText(), QString("xp"));
-        QVERIFY(s.Control<QRadioButton>("Option3_0")->isChecked());
-        QCOMPARE(s.Control<QLabel>("Image1L")->palette().color(QPalette::Window), QColor(128, 0, 0));
-        s.Press("Command1");
-    });
-    QCOMPARE(g.ColourTable[2], ui::FromQColor(QColor(190, 206, 223)));   // xp's board colour, loaded
-    QCOMPARE(s.Find<QPushButton>("cmdload")->palette().color(QPalette::Button), QColor(241, 239, 226));
-    QCOMPARE(s.Configuration(), std::string("xp.col\r\npatf.txt\r\nplayer00.ico\r\nplayer10.ico\r\nhome0.ico\r\n"
-                                            "king0.ico\r\n32768 128 8421504 0\r\n0 1 1 0 0\r\n"));
-}
-
-void TestOptionsDialog::ExitChangesNothing() {
-    // Exit leaves the settings, the window and the board as they were, whatever the controls show.
-    Options s;
-    const Game before = s.window.game();
-    const QImage board = s.window.Board()->Pixmap().toImage();
-    s.Open([&] {
-        s.ChooseScheme("contrast");
-        s.Press("Option3_2");
-        s.Press("Check1");
-        s.Press("Option1");
-        s.Control<ColourPicker>("ColPik1")->Slider(2)->setValue(255);
-        s.Press("Image2");
-        s.ChooseFile("home1.ico");
-        s.Press("cmdadjust4");
-    });
-    const Game& g = s.window.game();
-    QVERIFY(std::tie(g.SchemeFile, g.BoardStyle, g.ShowLabels, g.ColourMode, g.PictureFiles, g.PieceColours,
-                     g.ColourTable) == std::tie(before.SchemeFile, before.BoardStyle, before.ShowLabels,
-                                                before.ColourMode, before.PictureFiles, before.PieceColours,
-                                                before.ColourTable));
-    QCOMPARE(s.window.Board()->Pixmap().toImage(), board);
-}
-
-void TestOptionsDialog::TheDialogListsTheSchemesInFileOrderAndOnlyPictures() {
-    // The scheme box lists every scheme of "all.col" in file order, the one in use chosen; the file list
-    // offers the pictures of the program folder and not its layouts.
-    Options s;
-    QStringList names;
-    for (const QByteArray& line : QByteArray::fromStdString(s.folder.Read("all.col")).split('\n'))
-        if (line.contains(".col")) names << QString::fromLatin1(line.left(line.indexOf(".col")));
-    QCOMPARE(names.size(), 6);
-    s.Open([&] {
-        auto* box = s.Control<QComboBox>("Combo1");
-        QStringList listed;
-        for (int i = 0; i < box->count(); ++i) listed << box->itemText(i);
-        QCOMPARE(listed, names);
-        QCOMPARE(box->currentText(), QString("xp"));
-        auto* files = s.Control<QListWidget>("File1");
-        QVERIFY(!files->findItems("player00.ico", Qt::MatchExactly).isEmpty());
-        QVERIFY(files->findItems("patf.txt", Qt::MatchExactly).isEmpty());
-    });
-}
-
-void TestOptionsDialog::TheSlidersMakeTheColourShown() {
-    // Moving the red, green and blue sliders makes the colour shown in the preview and reported with each
-    // move; a colour set by the program moves the sliders without a report.
-    ColourPicker picker;
-    picker.show();
-    QSignalSpy reported(&picker, &ColourPicker::ColourChanged);
-    picker.Slider(0)->setValue(200);
-    picker.Slider(1)->setValue(64);
-    picker.Slider(2)->setValue(9);
-    QTest::keyClick(picker.Slider(2), Qt::Key_Right);   // one step up with the keyboard
-    QCOMPARE(picker.Preview()->palette().color(QPalette::Window), QColor(200, 64, 10));
-    QCOMPARE(reported.size(), 4);
-    QCOMPARE(reported.front().front().value<QColor>(), QColor(200, 0, 0));
-    QCOMPARE(reported.back().front().value<QColor>(), QColor(200, 64, 10));
-    picker.SetColour(QColor(1, 2, 3));
-    QCOMPARE(reported.size(), 4);
-    QCOMPARE(picker.Slider(1)->value(), 2);
-    QCOMPARE(picker.Preview()->palette().color(QPalette::Window), QColor(1, 2, 3));
-}
 
 WINDOW_TEST_MAIN(TestOptionsDialog)
 #include "test_options_dialog.moc"
