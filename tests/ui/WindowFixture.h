@@ -7,6 +7,7 @@
 #include <deque>
 #include <functional>
 #include <map>
+#include <source_location>
 #include <string>
 #include <vector>
 
@@ -38,10 +39,11 @@ int RunWindowTest(int argc, char** argv) {
     int main(int argc, char** argv) { return jv::uitest::RunWindowTest<Test>(argc, argv); }
 
 // Runs open, which opens a modal dialog of type T and waits in it, and hands the dialog to answer once it is
-// up. Gives what went wrong, "" when nothing: no such dialog came, or it was still open five seconds after
-// the answer, and was then closed so that open returns.
+// up. Fails the test, at the caller's line, when no such dialog came or when it was still open five seconds
+// after the answer; it is then closed so that open returns. True when all went well.
 template <typename T>
-QString WhileOpen(const std::function<void()>& open, const std::function<void(T*)>& answer) {
+bool WhileOpen(const std::function<void()>& open, const std::function<void(T*)>& answer,
+               std::source_location at = std::source_location::current()) {
     QPointer<T> dialog;
     bool came = false, stuck = false;
     QDeadlineTimer deadline(QDeadlineTimer::Forever);   // until the answer has been given
@@ -58,8 +60,9 @@ QString WhileOpen(const std::function<void()>& open, const std::function<void(T*
     });
     poll.start(10);
     open();
-    const QString name = T::staticMetaObject.className();
-    return !came ? "no " + name + " was opened" : stuck ? name + " still open after its answer; closed" : QString();
+    const QByteArray name = T::staticMetaObject.className();
+    if (!came || stuck) QTest::qFail(name + (came ? " still open after its answer; closed" : " never opened"), at.file_name(), at.line());
+    return came && !stuck;
 }
 
 // A temporary program folder holding the shipped data files.

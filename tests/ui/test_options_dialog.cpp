@@ -23,7 +23,7 @@ struct Options : StartedWindow {
 
     void Open(const std::function<void()>& steps) {
         const auto answer = [&](ui::Form2* opened) { form = opened, steps(), form->isVisible() ? Press("Command2") : void(); };
-        QCOMPARE(WhileOpen<ui::Form2>([&] { Find<QAction>("mnuoptions")->trigger(); }, answer), QString());
+        WhileOpen<ui::Form2>([&] { Find<QAction>("mnuoptions")->trigger(); }, answer);
     }
     template <typename T>
     T* Control(const char* name) { return form->findChild<T*>(name); }
