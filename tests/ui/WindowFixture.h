@@ -4,9 +4,9 @@
 // wait in a modal dialog, and the pointer moves of a drag on the board picture.
 #include <QtTest>
 #include <QtWidgets>
-#include <deque>
 #include <functional>
 #include <map>
+#include <utility>
 #include <source_location>
 #include <string>
 #include <vector>
@@ -89,21 +89,15 @@ private:
     QTemporaryDir dir_;
 };
 
-// The questions the window put, and the answers it gets: one kept for a question whenever it is put, else
-// the next of the script, else the default.
+// The questions the window put, and the answers it gets: one kept for a question, else Ok (1).
 struct Questions {
     std::vector<std::pair<std::string, std::string>> Asked;   // text, style
-    std::deque<int> Answers;
     std::map<std::string, int> AnswerTo;
 
     void AnswerFor(ui::MainWindow& window) {
         window.Answerer = [this](const std::string& text, const std::string& style) {
             Asked.emplace_back(text, style);
-            if (auto fixed = AnswerTo.find(text); fixed != AnswerTo.end()) return fixed->second;
-            if (Answers.empty()) return 1;
-            const int answer = Answers.front();
-            Answers.pop_front();
-            return answer;
+            return AnswerTo.contains(text) ? AnswerTo[text] : 1;
         };
     }
     bool WasAsked(const std::string& text) const {
@@ -111,7 +105,7 @@ struct Questions {
     }
 };
 
-// Sends one mouse event to the board picture at the centre of a square.
+// Sends one mouse event to the board picture at a pixel position.
 inline void SendMouse(ui::BoardPicture* picture, QEvent::Type type, QPoint at, Qt::MouseButtons held) {
     const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
     QMouseEvent event(type, at, picture->mapToGlobal(at), button, held, Qt::NoModifier);
@@ -135,24 +129,18 @@ struct Started {
     ProgramFolder folder;
     Window window{folder.Path()};
     Questions questions;
-    std::deque<std::string> Files;   // the file dialog's answers, in order, in the program folder
+    std::string NextFile;   // the file dialog's next answer, in the program folder; "" cancels
 
     explicit Started(int pauseLimit = 0) {
         questions.AnswerFor(window);
-        window.FileChooser = [this](FileMode, const std::string&) {
-            const std::string name = Files.empty() ? "" : Files.front();
-            if (!Files.empty()) Files.pop_front();
-            return name;
-        };
+        window.FileChooser = [this](FileMode, const std::string&) { return std::exchange(NextFile, ""); };
         window.PauseLimit = pauseLimit;
         window.Start();
         window.show();
         (void)QTest::qWaitForWindowExposed(&window);
     }
     template <typename T = QAbstractButton>
-    T* Find(const char* name) {
-        return window.template findChild<T*>(name);
-    }
+    T* Find(const char* name) { return window.template findChild<T*>(name); }
     Game& g() { return window.game(); }
     ui::BoardPicture* Board() { return window.Board(); }
     void Press(const char* name) { QTest::mouseClick(Find<QWidget>(name), Qt::LeftButton); }
@@ -162,7 +150,7 @@ struct Started {
     // Loads a layout written to the program folder through the load command.
     void Load(const std::string& name, const std::string& content) {
         folder.Write(name, content);
-        Files = {name};
+        NextFile = name;
         Press("cmdload");
     }
 };

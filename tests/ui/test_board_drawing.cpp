@@ -43,8 +43,7 @@ struct Drawing {
         g.Board(8, 2) = AttackerCode;
         QImage king(64, 64, QImage::Format_ARGB32);
         king.fill(Magenta);
-        king.save(QString::fromStdString(g.ProgramFolder + "king.png"));
-        g.PictureFiles[3] = "king.png";
+        king.save(QString::fromStdString(g.ProgramFolder + (g.PictureFiles[3] = "king.png")));
         g.SquareGap = g.ShowLabels = 1;
     }
     QImage Draw(int style, int colourMode) {
@@ -75,24 +74,18 @@ class TestBoardDrawing : public QObject {
     Q_OBJECT
 private slots:
     void GeometryGivesEqualSquaresBelowAndRightOfTheLabels() {
-        // Squares are square and equal, laid out from a top-left origin that leaves room for the labels;
-        // Col runs down. The board fits the picture, a wide one limited by its width.
+        // Squares are square and equal, whole pixels, laid out from a top-left origin that leaves room for
+        // the labels, Col running down, all inside the picture; a point finds the square under it.
         const BoardGeometry geo = BuildBoardGeometry(600, 600, 11, 11, true);
-        const int s = geo.SquareSize;
-        QCOMPARE(s % TwipsPerPixel, 0);
-        QVERIFY(s >= 48 * TwipsPerPixel);   // 11 squares of 51 pixels fit in 600
+        const int s = geo.SquareSize, x = geo.Left(4, 9) + s / 2, y = geo.Top(4, 9) + s / 2;
+        QVERIFY(s % TwipsPerPixel == 0 && s >= 48 * TwipsPerPixel);   // 11 squares of 51 pixels fit in 600
         for (int a = 1; a <= 11; ++a)
             for (int b = 1; b <= 11; ++b)
                 QVERIFY(geo.Left(a, b) == geo.Left(1, 1) + (b - 1) * s && geo.Top(a, b) == geo.Top(1, 1) + (a - 1) * s);
         QVERIFY(geo.Left(1, 1) >= LabelMarginLeft * TwipsPerPixel && geo.Top(1, 1) >= LabelMarginTop * TwipsPerPixel);
         QVERIFY(geo.Left(1, 11) + s < 600 * TwipsPerPixel && geo.Top(11, 1) + s < 600 * TwipsPerPixel);
-        const BoardGeometry wide = BuildBoardGeometry(900, 400, 7, 13, false);
-        QVERIFY(wide.Top(7, 1) + wide.SquareSize <= 400 * TwipsPerPixel);
-        QVERIFY(wide.Left(1, 13) + wide.SquareSize <= 900 * TwipsPerPixel);
-        const int x = geo.Left(4, 9) + s / 2, y = geo.Top(4, 9) + s / 2;   // the square under a point
         QCOMPARE(std::pair(geo.SquareAt(x, y, 11, 11).Col, geo.SquareAt(x, y, 11, 11).Row), std::pair(4, 9));
-        QCOMPARE(geo.SquareAt(geo.Left(1, 1) - 1, y, 11, 11).Col, -1);
-        QCOMPARE(geo.SquareAt(x, geo.Top(11, 1) + s, 11, 11).Col, -1);
+        QVERIFY(geo.SquareAt(geo.Left(1, 1) - 1, y, 11, 11).Col == -1 && geo.SquareAt(x, geo.Top(11, 1) + s, 11, 11).Col == -1);
     }
 
     void FlatRaisedAndSunkenSquares() {

@@ -48,10 +48,10 @@ struct Impatient : Started<ImpatientWindow> {
     }
     // What the user does, by name: a button, a load, a save, a replay, a click on the undo list, a drag.
     void Act(const std::string& what) {
-        if (what == "load 7x7") Files = {"pattern1.txt"}, Press("cmdload");
-        else if (what == "load 13x13") Files = {"pattern4.txt"}, Press("cmdload");
-        else if (what == "save") Files = {"saved.txt"}, Press("cmdsave");
-        else if (what == "replay") Files = {g().MovesLogFile}, Press("cmdloadlog");
+        if (what == "load 7x7") NextFile = "pattern1.txt", Press("cmdload");
+        else if (what == "load 13x13") NextFile = "pattern4.txt", Press("cmdload");
+        else if (what == "save") NextFile = "saved.txt", Press("cmdsave");
+        else if (what == "replay") NextFile = g().MovesLogFile, Press("cmdloadlog");
         else if (what == "drag quiet") Drag(Quiet[0], Quiet[1]);
         else if (what == "drag capture") Drag(Capture[0], Capture[1]);
         else if (auto* undo = Find<QListWidget>("Undo"); what == "undo list" && undo->count() > 0)

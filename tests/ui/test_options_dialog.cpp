@@ -1,5 +1,5 @@
-// The options dialog, Form2, opened from the Options menu of the real window: its controls, Apply, Default
-// and Exit, what survives a restart, and its colour picker's sliders.
+// The options dialog, Form2, opened from the Options menu of the real window: Apply, Default and Exit, what
+// survives a restart, and its colour picker's sliders.
 #include "WindowFixture.h"
 #include "core/Session.h"
 #include "records/Configuration.h"
@@ -120,24 +120,6 @@ private slots:
         QCOMPARE(s.window.Board()->Pixmap().toImage(), board);
     }
 
-    void TheDialogListsTheSchemesInFileOrderAndOnlyPictures() {
-        // The scheme box lists every scheme of "all.col" in file order, the one in use chosen; the file list
-        // offers the pictures of the program folder and not its layouts.
-        Options s;
-        QStringList names;
-        for (const QByteArray& line : QByteArray::fromStdString(s.folder.Read("all.col")).split('\n'))
-            if (line.contains(".col")) names << QString::fromLatin1(line.left(line.indexOf(".col")));
-        QCOMPARE(names.size(), 6);
-        s.Open([&] {
-            auto* box = s.Control<QComboBox>("Combo1");
-            QStringList listed{box->currentText()};
-            for (int i = 0; i < box->count(); ++i) listed << box->itemText(i);
-            QCOMPARE(listed, QStringList{"xp"} + names);
-            auto* files = s.Control<QListWidget>("File1");
-            QVERIFY(!files->findItems("player00.ico", Qt::MatchExactly).isEmpty());
-            QVERIFY(files->findItems("patf.txt", Qt::MatchExactly).isEmpty());
-        });
-    }
 
     void TheSlidersMakeTheColourShown() {
         // Moving the red, green and blue sliders makes the colour shown in the preview and reported with each
