@@ -145,6 +145,10 @@ struct Started {
     ui::BoardPicture* Board() { return window.Board(); }
     void Press(const char* name) { QTest::mouseClick(Find<QWidget>(name), Qt::LeftButton); }
     void Drag(Square from, Square to) { uitest::Drag(Board(), from, to); }
+    void Click(int col, int row) {
+        SendMouse(Board(), QEvent::MouseButtonPress, Board()->SquareCentre(col, row), Qt::LeftButton);
+        SendMouse(Board(), QEvent::MouseButtonRelease, Board()->SquareCentre(col, row), Qt::NoButton);
+    }
     QImage Picture() { return Board()->Pixmap().toImage(); }
     QColor At(int col, int row) { return Picture().pixelColor(Board()->SquareCentre(col, row)); }
     // Loads a layout written to the program folder through the load command.

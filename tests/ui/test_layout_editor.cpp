@@ -1,6 +1,5 @@
 // The layout editor on the real window: the palette beside the board, clicks placing the chosen kind, the
 // commands that wait while it is on, and the King's column when the editor is switched off.
-
 #include "WindowFixture.h"
 #include "core/LayoutEditor.h"
 #include "records/PositionRecord.h"
@@ -13,11 +12,7 @@ namespace {
 struct Editing : StartedWindow {
     QWidget* palette() { return Find<QWidget>("Picture2"); }
     void Send(QEvent::Type type, int col, int row, Qt::MouseButtons held) {
-        SendMouse(window.Board(), type, window.Board()->SquareCentre(col, row), held);
-    }
-    void Click(int col, int row) {
-        Send(QEvent::MouseButtonPress, col, row, Qt::LeftButton);
-        Send(QEvent::MouseButtonRelease, col, row, Qt::NoButton);
+        SendMouse(Board(), type, Board()->SquareCentre(col, row), held);
     }
 };
 
@@ -32,17 +27,15 @@ private slots:
         Editing s;
         const std::string before = EncodePosition(s.g());
         s.Press("cmdedit");
-        QVERIFY(s.palette()->isVisible());
+        QVERIFY(s.palette()->isVisible() && s.palette()->geometry().left() >= s.Board()->geometry().right());
         QCOMPARE(s.palette()->height(), s.Board()->height());
-        QVERIFY(s.palette()->geometry().left() >= s.Board()->geometry().right());
         QCOMPARE(s.Find<QPushButton>("cmdedit")->text(), QString("Play Layout"));
         s.Press("cmdedit");
-        QVERIFY(s.palette()->isHidden());
+        QVERIFY(s.palette()->isHidden() && s.questions.Asked.empty());
         QCOMPARE(EncodePosition(s.g()), before);
         QCOMPARE(std::pair(s.g().KingCol, s.g().KingRow), std::pair(6, 6));
         QCOMPARE(s.Find<QLabel>("LayoutName")->text(), QString("temporarylayout.txt"));
         QCOMPARE(s.folder.Read("temporarylayout.txt"), "1111" + before + "\r\n");
-        QVERIFY(s.questions.Asked.empty());
     }
 
     void CommandsDoNothingWhileTheEditorIsOn() {
@@ -58,12 +51,9 @@ private slots:
         s.window.FileChooser = [&](FileMode, const std::string&) { return ++filesChosen, s.folder.File("pattern1.txt"); };
         for (const char* name : {"cmdload", "cmdsave", "cmdreset", "cmdundo", "Check2"}) s.Press(name);
         for (const char* name : {"mnuloadgame", "mnusavegame", "mnuresetgame"}) s.Find<QAction>(name)->trigger();
-        QVERIFY(s.questions.Asked.empty());
-        QCOMPARE(filesChosen, 0);
+        QVERIFY(s.questions.Asked.empty() && filesChosen == 0 && s.g().MovesLogFile.empty() && s.palette()->isVisible());
         QCOMPARE(s.Find<QListWidget>("Undo")->count(), static_cast<int>(undoEntries));
         QCOMPARE(EncodePosition(s.g()), position);
-        QVERIFY(s.g().MovesLogFile.empty());
-        QVERIFY(s.palette()->isVisible());
     }
 
     void ClicksPlaceTheChosenKindAndAKingMovedToAnotherRowLosesHisColumn() {
@@ -74,9 +64,7 @@ private slots:
         s.Press("cmdedit");
         const QColor attacker = s.At(1, 6), defender = s.At(5, 6);   // as the narrower board shows them
         s.Click(3, 3);
-        QCOMPARE(s.g().EditorGrid(3, 3), AttackerCode);
-        QCOMPARE(s.g().Board(3, 3), EmptyCode);
-        QCOMPARE(s.At(3, 3), attacker);
+        QVERIFY(s.g().EditorGrid(3, 3) == AttackerCode && s.g().Board(3, 3) == EmptyCode && s.At(3, 3) == attacker);
         s.Click(1, 1);
         QCOMPARE(s.g().EditorGrid(1, 1), HomeCode);
 
@@ -91,12 +79,10 @@ private slots:
 
         s.Press("KindKing");
         s.Click(6, 9);
-        QCOMPARE(s.g().EditorGrid(6, 9), EditorKingCode);
-        QCOMPARE(s.g().EditorGrid(6, 6), EmptyCode);
+        QVERIFY(s.g().EditorGrid(6, 9) == EditorKingCode && s.g().EditorGrid(6, 6) == EmptyCode);
         s.Press("cmdedit");
         QCOMPARE(std::pair(s.g().KingCol, s.g().KingRow), std::pair(0, 6));
-        QCOMPARE(s.g().Board(6, 9), DefenderCode);
-        QCOMPARE(s.g().Board(6, 6), EmptyCode);
+        QVERIFY(s.g().Board(6, 9) == DefenderCode && s.g().Board(6, 6) == EmptyCode);
         QCOMPARE(s.At(6, 9), s.At(5, 6));   // drawn as the defender beside the old square
         QCOMPARE(s.folder.Read("temporarylayout.txt").substr(0, 8), std::string("11110006"));
     }

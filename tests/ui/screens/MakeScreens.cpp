@@ -30,10 +30,6 @@ struct Screen : StartedWindow {
         window.resize(width, height);
         QApplication::processEvents();
     }
-    void Click(int col, int row) {
-        SendMouse(Board(), QEvent::MouseButtonPress, Board()->SquareCentre(col, row), Qt::LeftButton);
-        SendMouse(Board(), QEvent::MouseButtonRelease, Board()->SquareCentre(col, row), Qt::NoButton);
-    }
     // Opens the options dialog from the menu and runs steps while it is open.
     void WithOptions(const std::function<void(ui::Form2*)>& steps) {
         WhileOpen<ui::Form2>([this] { window.findChild<QAction*>("mnuoptions")->trigger(); },
