@@ -24,10 +24,11 @@ template <typename Test>
 int RunWindowTest(int argc, char** argv) {
     QTemporaryDir root(QDir::tempPath() + "/" + QFileInfo(argv[0]).fileName() + "-XXXXXX");
     if (!root.isValid()) return 1;
-    for (const char* name : {"HOME", "TMPDIR", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"}) {
+    for (const char* name :
+         {"HOME", "TMPDIR", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"}) {
         const QString path = root.filePath(name);
         QDir().mkpath(path);
-        QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);   // as a runtime folder must be
+        QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);   // a runtime folder's
         qputenv(name, QFile::encodeName(path));
     }
     QApplication app(argc, argv);
@@ -61,7 +62,8 @@ bool WhileOpen(const std::function<void()>& open, const std::function<void(T*)>&
     poll.start(10);
     open();
     const QByteArray name = T::staticMetaObject.className();
-    if (!came || stuck) QTest::qFail(name + (came ? " still open after its answer; closed" : " never opened"), at.file_name(), at.line());
+    const QByteArray problem = came ? " still open after its answer; closed" : " never opened";
+    if (!came || stuck) QTest::qFail(name + problem, at.file_name(), at.line());
     return came && !stuck;
 }
 
@@ -170,7 +172,8 @@ inline std::string LayoutText(std::initializer_list<const char*> cols) {
         ++col;
         for (std::size_t row = 0; row < text.size(); ++row) {
             if (text[row] == 'K') kingCol = col, kingRow = static_cast<int>(row) + 1;
-            squares += text[row] == 'a' ? '1' : text[row] == 'd' || text[row] == 'K' ? '0' : text[row] == 'H' ? 'H' : 'E';
+            const char c = text[row];
+            squares += c == 'a' ? '1' : c == 'd' || c == 'K' ? '0' : c == 'H' ? 'H' : 'E';
         }
     }
     return two(col) + two(static_cast<int>(squares.size()) / col) + two(kingCol) + two(kingRow) + squares + "\r\n";

@@ -85,7 +85,8 @@ private slots:
         QVERIFY(geo.Left(1, 1) >= LabelMarginLeft * TwipsPerPixel && geo.Top(1, 1) >= LabelMarginTop * TwipsPerPixel);
         QVERIFY(geo.Left(1, 11) + s < 600 * TwipsPerPixel && geo.Top(11, 1) + s < 600 * TwipsPerPixel);
         QCOMPARE(std::pair(geo.SquareAt(x, y, 11, 11).Col, geo.SquareAt(x, y, 11, 11).Row), std::pair(4, 9));
-        QVERIFY(geo.SquareAt(geo.Left(1, 1) - 1, y, 11, 11).Col == -1 && geo.SquareAt(x, geo.Top(11, 1) + s, 11, 11).Col == -1);
+        QCOMPARE(geo.SquareAt(geo.Left(1, 1) - 1, y, 11, 11).Col, -1);
+        QCOMPARE(geo.SquareAt(x, geo.Top(11, 1) + s, 11, 11).Col, -1);
     }
 
     void FlatRaisedAndSunkenSquares() {
@@ -95,10 +96,12 @@ private slots:
         Drawing d;
         QImage flat = d.Draw(0, 0);
         const int x = d.X(2, 2), y = d.Y(2, 2), side = d.Side(), mid = side / 2;
-        const int r = ToPixels(d.geo.Left(2, 2) + d.geo.SquareSize - 20), b = ToPixels(d.geo.Top(2, 2) + d.geo.SquareSize - 20);
+        const int r = ToPixels(d.geo.Left(2, 2) + d.geo.SquareSize - 20);
+        const int b = ToPixels(d.geo.Top(2, 2) + d.geo.SquareSize - 20);
         QCOMPARE(r, x + side - 1);   // round(20 / 15) = 1 pixel in from the next square
         const auto edges = [&](const QImage& i) {
-            return std::vector{i.pixelColor(x + mid, y), i.pixelColor(x, y + mid), i.pixelColor(r, y + mid), i.pixelColor(x + mid, b)};
+            return std::vector{i.pixelColor(x + mid, y), i.pixelColor(x, y + mid), i.pixelColor(r, y + mid),
+                               i.pixelColor(x + mid, b)};
         };
         QCOMPARE(flat.pixelColor(d.Centre(2, 2)), Back);
         QCOMPARE(flat.pixelColor(x + side, y + mid), GridLines);   // the next square's outline
@@ -145,7 +148,8 @@ private slots:
         for (int style : {0, 1, 2}) {
             const QImage image = d.Draw(style, 1);
             std::vector<QColor> shown;
-            for (auto [a, b] : {std::pair{6, 6}, {3, 4}, {8, 2}, {1, 1}, {11, 11}, {5, 5}}) shown.push_back(image.pixelColor(d.Centre(a, b)));
+            for (auto [a, b] : {std::pair{6, 6}, {3, 4}, {8, 2}, {1, 1}, {11, 11}, {5, 5}})
+                shown.push_back(image.pixelColor(d.Centre(a, b)));
             QCOMPARE(shown, (std::vector{King, Defender, Attacker, Home, Home, Back}));
         }
     }
@@ -156,11 +160,14 @@ private slots:
         Drawing d;
         const QImage image = d.Draw(0, 0);
         const int side = d.Side(), band = ToPixels(d.geo.Top(1, 1)) - 1, left = ToPixels(d.geo.Left(1, 1));
-        const auto number = [&](int n) { return LeftmostInk(image, QRect(d.X(1, n) + 1, band - 16, side - 2, 16)) - d.X(1, n); };
+        const auto number = [&](int n) {
+            return LeftmostInk(image, QRect(d.X(1, n) + 1, band - 16, side - 2, 16)) - d.X(1, n);
+        };
         const auto letter = [&](int n) { return LeftmostInk(image, QRect(0, d.Y(n, 1) + 2, left - 1, side - 4)); };
-        QVERIFY2(number(9) >= 20 && number(9) <= 22, qPrintable(QString::number(number(9))));   // 51 / 2.5 = 20.4 + bearing
-        QVERIFY2(number(10) >= 8 && number(10) <= 10, qPrintable(QString::number(number(10))));   // 51 / 6 = 8.5
-        QVERIFY2(letter(10) > 0 && letter(9) - letter(10) >= 3, qPrintable(QString("%1 %2").arg(letter(9)).arg(letter(10))));
+        // 51 / 2.5 = 20.4 and 51 / 6 = 8.5 pixels, plus the glyph's own bearing.
+        QVERIFY2(number(9) >= 20 && number(9) <= 22, qPrintable(QString::number(number(9))));
+        QVERIFY2(number(10) >= 8 && number(10) <= 10, qPrintable(QString::number(number(10))));
+        QVERIFY2(letter(10) > 0 && letter(9) - letter(10) >= 3, qPrintable(QString::number(letter(9) - letter(10))));
         QCOMPARE(image.pixelColor(d.Centre(1, 9)), Back);   // labels stay out of the squares
         d.g.ShowLabels = 0;
         const QImage bare = d.Draw(0, 0);

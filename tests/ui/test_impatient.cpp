@@ -100,9 +100,10 @@ private slots:
         QTest::newRow("drop refused during the answer") << "drag capture" << 1 << true << 2 << false;
         QTest::newRow("second drop during the capture") << "drag quiet" << 1 << false << 4 << false;
         QTest::newRow("smaller board during the capture") << "load 7x7" << 1 << false << 0 << false;
-        for (const char* click : {"cmdreset", "cmdundo", "cmdedit", "load 7x7", "load 13x13", "save", "replay",
-                                  "Check2", "undo list", "cmdGetAttackerRank", "cmdMakeRedAutoMove", "Command4",
-                                  "cmdGetDefenderRank", "cmdRedGreenRandom", "cmdPathAroundKing", "cmdCheckKingCapture"})
+        for (const char* click :
+             {"cmdreset", "cmdundo", "cmdedit", "load 7x7", "load 13x13", "save", "replay", "Check2", "undo list",
+              "cmdGetAttackerRank", "cmdMakeRedAutoMove", "Command4", "cmdGetDefenderRank", "cmdRedGreenRandom",
+              "cmdPathAroundKing", "cmdCheckKingCapture"})
             for (int pause = 1; pause <= 3; ++pause)
                 QTest::addRow("%s at pause %d", click, pause) << click << pause << false << -1 << false;
     }
@@ -126,7 +127,8 @@ private slots:
         QCOMPARE(s.Disagreements(), QString());
         QVERIFY(s.LogLines() >= 1);
         std::size_t lines = 1;   // a saved layout is one whole line
-        if (s.folder.Exists("saved.txt")) QCOMPARE(test::BadLayoutLines(s.folder.File("saved.txt"), lines), std::string());
+        if (s.folder.Exists("saved.txt"))
+            QCOMPARE(test::BadLayoutLines(s.folder.File("saved.txt"), lines), std::string());
         QCOMPARE(lines, std::size_t(1));
         if (undo >= 0) QCOMPARE(s.Shown("Undo"), undo);
         const QImage shown = s.Picture();

@@ -32,7 +32,8 @@ private slots:
         questions.AnswerFor(window);
         QVERIFY(!window.Start() && window.Ended());
         QCOMPARE(questions.Asked.size(), std::size_t(1));
-        QCOMPARE(questions.Asked[0].first, std::string("File: all.col is missing\r\nProgram cannot run without this file"));
+        QCOMPARE(questions.Asked[0].first,
+                 std::string("File: all.col is missing\r\nProgram cannot run without this file"));
         QCOMPARE(questions.Asked[0].second, std::string("vbok+vbcritical"));
         QVERIFY(!folder.Exists("jarlsvakt.cfg"));
     }

@@ -65,7 +65,8 @@ private slots:
         QFETCH(QString, saved);
         StartedWindow s;
         s.window.FileChooser = nullptr;   // the program's own dialog
-        WhileOpen<QFileDialog>([&] { s.Press("cmdsave"); }, [&](QFileDialog* dialog) { SaveAsAUserDoes(dialog, filter, typed); });
+        WhileOpen<QFileDialog>([&] { s.Press("cmdsave"); },
+                               [&](QFileDialog* dialog) { SaveAsAUserDoes(dialog, filter, typed); });
         const std::string name = saved.toStdString();
         QCOMPARE(s.folder.Read(name), name.ends_with(".otn") ? std::string(OpeningOtn) : s.folder.Read("patf.txt"));
         QVERIFY(s.questions.WasAsked("Game saved to file:\r\n" + s.folder.File(name)));
@@ -79,7 +80,8 @@ private slots:
         s.Find<QCheckBox>("Check1")->setChecked(false);   // no reply: one move to write
         s.Drag({4, 6}, {4, 3});   // D6 > D3, f8-c8
         s.window.FileChooser = [&](FileMode mode, const std::string& title) {
-            return mode == FileMode::Save && title == "Select an output file for the game record" ? s.folder.File("record.txt") : "";
+            const bool asked = mode == FileMode::Save && title == "Select an output file for the game record";
+            return asked ? s.folder.File("record.txt") : "";
         };
         exportRecord->trigger();
         const std::string patf = s.folder.Read("patf.txt");

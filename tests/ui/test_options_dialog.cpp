@@ -22,7 +22,10 @@ struct Options : StartedWindow {
     ui::Form2* form = nullptr;
 
     void Open(const std::function<void()>& steps) {
-        const auto answer = [&](ui::Form2* opened) { form = opened, steps(), form->isVisible() ? Press("Command2") : void(); };
+        const auto answer = [&](ui::Form2* opened) {
+            form = opened, steps();
+            if (form->isVisible()) Press("Command2");
+        };
         WhileOpen<ui::Form2>([&] { Find<QAction>("mnuoptions")->trigger(); }, answer);
     }
     template <typename T>
@@ -85,7 +88,8 @@ private slots:
             s.Press("Command1");
         });
         Game& g = s.window.game();
-        QVERIFY(std::tie(g.SchemeFile, g.BoardStyle, g.ShowLabels, g.PictureFiles[3]) == std::tuple("wood.col", 1, 0, "king1.ico"));
+        QVERIFY(std::tie(g.SchemeFile, g.BoardStyle, g.ShowLabels, g.PictureFiles[3]) ==
+                std::tuple("wood.col", 1, 0, "king1.ico"));
         QCOMPARE(s.Find<QPushButton>("cmdload")->palette().color(QPalette::Button), QColor(200, 0, 0));
         s.Open([&] {
             s.Press("Reset");

@@ -41,7 +41,8 @@ struct Screen : StartedWindow {
 // pointer's hint shown; then the debug panel with the attackers' reasoning, and the message box.
 bool SaveWindow(const QString& out) {
     Screen s(1200, 760);
-    for (auto [from, to] : {std::pair{Square{4, 6}, Square{3, 6}}, {{6, 8}, {3, 8}}, {{8, 6}, {8, 9}}}) s.Drag(from, to);
+    for (auto [from, to] : {std::pair{Square{4, 6}, Square{3, 6}}, {{6, 8}, {3, 8}}, {{8, 6}, {8, 9}}})
+        s.Drag(from, to);
     SendMouse(s.Board(), QEvent::MouseMove, s.Board()->SquareCentre(6, 6), Qt::NoButton);
     bool ok = Save(s.window, out + "/window-in-play.png");
     s.window.findChild<QAction*>("mnudebug")->trigger();
@@ -68,7 +69,8 @@ bool SaveEditor(const QString& out) {
     s.Click(6, 6);
     SendMouse(s.Board(), QEvent::MouseMove, s.Board()->SquareCentre(6, 3), Qt::NoButton);
     QWidget* palette = s.Find<QWidget>("Picture2");
-    return Save(s.window, out + "/editor.png", QRect(0, 0, palette->mapTo(&s.window, QPoint(palette->width(), 0)).x() + 2, s.window.height()));
+    const int right = palette->mapTo(&s.window, QPoint(palette->width(), 0)).x() + 2;
+    return Save(s.window, out + "/editor.png", QRect(0, 0, right, s.window.height()));
 }
 
 // The options dialog with the Computer frame chosen, and the board in each scheme of "all.col", chosen and
@@ -87,7 +89,8 @@ bool SaveOptions(const QString& out) {
             QTest::mouseClick(form->findChild<QWidget*>("Command1"), Qt::LeftButton);
         });
         const int half = ui::ToPixels(s.Board()->Geometry().SquareSize) / 2;
-        const QPoint first = s.Board()->SquareCentre(1, 1) - QPoint(half + ui::LabelMarginLeft, half + ui::LabelMarginTop);
+        const QPoint labels(ui::LabelMarginLeft, ui::LabelMarginTop);
+        const QPoint first = s.Board()->SquareCentre(1, 1) - QPoint(half, half) - labels;
         const QPoint last = s.Board()->SquareCentre(s.g().BoardWidth, s.g().BoardHeight) + QPoint(half + 8, half + 8);
         const QRect area(s.Board()->mapTo(&s.window, first), s.Board()->mapTo(&s.window, last));
         ok = Save(s.window, out + "/scheme-" + QString::fromStdString(name) + ".png", area) && ok;
