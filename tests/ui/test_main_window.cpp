@@ -1,5 +1,5 @@
-// The main window: start-up, the program's end by the exit command or the frame (also from inside the
-// automatic game), and the debug buttons.
+// The main window: start-up, and the program's end by the exit command or the frame, also from inside the
+// automatic game.
 #include "WindowFixture.h"
 
 using namespace jv;
@@ -73,22 +73,6 @@ private slots:
         const std::string after = s.folder.Read("jarlsvakt.cfg");
         QCOMPARE(after.find("\r\n2 1 ") != std::string::npos, !byFrame && answer == 6);   // the board style kept
         QCOMPARE(after != before, !byFrame && answer == 6);
-    }
-
-    void DebugButtonsAct() {
-        // The debug buttons each do one thing: rank the attackers' moves into their lists, show the King's
-        // capture diagnostic, or move one random attacker ("GreenRandom") without taking anything.
-        StartedWindow s;
-        s.Press("cmdGetAttackerRank");
-        QVERIFY(s.Find<QListWidget>("List1A")->count() > 0);
-        QCOMPARE(s.Find<QListWidget>("List1A")->count(), static_cast<int>(s.g().List1A.size()));
-        s.Press("cmdCheckKingCapture");   // the King on F6 among his four men
-        QCOMPARE(s.questions.Asked.back().first, std::string("Compx= 0\r\nUserX= 0\r\n 0 4 0"));
-        const int attackers = s.g().AttackerCount;
-        s.Press("cmdGreenRandom");
-        QVERIFY(s.Find<QListWidget>("List1")->count() > 0);
-        QCOMPARE(s.g().AttackerCount, attackers);
-        QCOMPARE(s.Find<QListWidget>("Undo")->count(), 1);
     }
 };
 
