@@ -6,7 +6,6 @@
 #include "ui/ColourValue.h"
 #include "ui/Form2.h"
 #include "ui/widgets/ColourPicker.h"
-#include "ui/widgets/PictureButton.h"
 
 using namespace jv;
 using namespace jv::uitest;
