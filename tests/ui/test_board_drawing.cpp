@@ -74,8 +74,7 @@ class TestBoardDrawing : public QObject {
     Q_OBJECT
 private slots:
     void GeometryGivesEqualSquaresBelowAndRightOfTheLabels() {
-        // Squares are square and equal, whole pixels, laid out from a top-left origin that leaves room for
-        // the labels, Col running down, all inside the picture; a point finds the square under it.
+        // Squares are equal, whole pixels, below and right of the labels, inside the picture, and found by a point.
         const BoardGeometry geo = BuildBoardGeometry(600, 600, 11, 11, true);
         const int s = geo.SquareSize, x = geo.Left(4, 9) + s / 2, y = geo.Top(4, 9) + s / 2;
         QVERIFY(s % TwipsPerPixel == 0 && s >= 48 * TwipsPerPixel);   // 11 squares of 51 pixels fit in 600
@@ -90,9 +89,7 @@ private slots:
     }
 
     void FlatRaisedAndSunkenSquares() {
-        // Flat squares share a grid outline; raised squares have light top and left edges and dark right and
-        // bottom ones, sunken squares the other way round, both leaving a gap of 20 x SquareGap twips; any
-        // other style paints no boxes but the pieces still.
+        // Flat squares share a grid outline, raised and sunken ones have light and dark edges and a gap.
         Drawing d;
         QImage flat = d.Draw(0, 0);
         const int x = d.X(2, 2), y = d.Y(2, 2), side = d.Side(), mid = side / 2;
@@ -118,8 +115,7 @@ private slots:
     }
 
     void KingPictureOnTheKingsSquareWithUnequalMargins() {
-        // The King's square shows the King's picture, an eighth of a square in from the top and left and a
-        // twenty-fourth from the right and bottom; a King on a Home square is drawn as the King.
+        // The King's picture sits 1/8 of a square in from the top left and 1/24 from the bottom right.
         Drawing d;
         for (int style : {0, 1, 2}) {
             const QImage image = d.Draw(style, 0);
@@ -142,8 +138,7 @@ private slots:
     }
 
     void ColourModeFillsSquaresByContent() {
-        // In colour mode every square is filled by its content: the King's square with the King's colour
-        // though it holds a defender, the Home squares with the Home colour, empty squares with the background.
+        // In colour mode each square is filled with its content's colour, the King's square with the King's.
         Drawing d;
         for (int style : {0, 1, 2}) {
             const QImage image = d.Draw(style, 1);
@@ -155,8 +150,7 @@ private slots:
     }
 
     void LabelsAndTheTwoDigitShift() {
-        // Numbers across the top sit 1/2.5 of a square in, two-digit numbers only 1/6 in; letters down the
-        // left edge, J and later further left. Without labels nothing is printed.
+        // Numbers and letters label the edges, two-digit numbers and J onwards shifted; none when switched off.
         Drawing d;
         const QImage image = d.Draw(0, 0);
         const int side = d.Side(), band = ToPixels(d.geo.Top(1, 1)) - 1, left = ToPixels(d.geo.Left(1, 1));
@@ -176,8 +170,7 @@ private slots:
     }
 
     void MoveMarkAndSmallMark() {
-        // The last move's mark runs from the centre of the source square into the target; the small mark sits
-        // a twelfth of a square inside a square's top-left corner.
+        // The move mark runs from the source square's centre into the target; the small mark sits in a corner.
         Drawing d;
         const QColor mark = ToQColor(0x0080FF);
         d.g.ColourTable[10] = FromQColor(mark);

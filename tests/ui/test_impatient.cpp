@@ -108,10 +108,7 @@ private slots:
                 QTest::addRow("%s at pause %d", click, pause) << click << pause << false << -1 << false;
     }
     void ClickInAPauseLeavesTheWindowTrue() {
-        // Whatever is clicked during the user's move, the computer's answer or a capture, the window keeps
-        // showing the game as it is, the game stays sound, and the moves log and a saved layout hold only
-        // whole layout lines; a reset starts the loaded layout, the board refuses drops while the computer
-        // moves and takes them as moves of their own during the user's capture.
+        // Any click in any pause of a move leaves the window showing a sound game and whole files.
         QFETCH(QString, click);
         QFETCH(int, pause);
         QFETCH(bool, quiet);
@@ -138,8 +135,7 @@ private slots:
     }
 
     void ClickQueuedWhileTheComputerThinksComesInItsAnimation() {
-        // The window takes no events while the computer ranks its moves; a reset queued then comes at the
-        // first pause, the animation of the computer's move, and leaves the layout untouched.
+        // A reset queued while the computer thinks comes in its animation and leaves the layout as loaded.
         Impatient s;
         const std::string loaded = s.LoadCaptures();
         QMetaObject::invokeMethod(&s.window, [&s] { s.Press("cmdreset"); }, Qt::QueuedConnection);
@@ -151,8 +147,7 @@ private slots:
     }
 
     void NewGameBegunAfterTheKingsCaptureStaysOpen() {
-        // "King Captured !" closes the board; a reset clicked right after the message, while its events
-        // run, begins a game whose board takes the pointer.
+        // A reset clicked right after "King Captured !" begins a game whose board takes the pointer.
         Impatient s;
         const std::string loaded = (s.Load("ring.txt", Ring), EncodePosition(s.g()));
         s.window.Answerer = [&s](const std::string& text, const std::string&) {
@@ -169,8 +164,7 @@ private slots:
     }
 
     void EditorSwitchedOnDuringTheComputersMove() {
-        // The editor switched on while the computer's answer is shown edits the position of that moment; the
-        // answer is made underneath, and switching the editor off puts the edited position back as a layout.
+        // The editor switched on during the computer's answer edits that moment's position and plays it after.
         Impatient s;
         s.LoadCaptures();
         std::string edited;
@@ -192,9 +186,7 @@ private slots:
         QTest::newRow("frame during the answer") << true << true << std::size_t(2);
     }
     void EndingInAPauseWritesWholeFilesOrNothing() {
-        // "Exit?" answered Yes in a pause ends the program there with the configuration written whole;
-        // closing by the frame leaves it as it was. The moves log holds whole lines: the user's move, and
-        // the answer if it was begun.
+        // Exit in a pause writes the configuration whole, the frame leaves it; the moves log holds whole lines.
         QFETCH(bool, byFrame);
         QFETCH(bool, quiet);
         QFETCH(std::size_t, logLines);
@@ -218,8 +210,7 @@ private slots:
     }
 
     void AutoGameTakesEveryClickUntilTheExit() {
-        // The automatic game lets every click in while it plays: resets, loads of other boards, the undo,
-        // the editor, the random movers, the debug moves; it plays on on whatever board there is until the exit.
+        // The automatic game takes every click while it plays, on whatever board there is, until the exit.
         Impatient s;
         s.Press("Check2");
         const char* const schedule[] = {"cmdreset", "cmdundo", "load 7x7", "cmdedit", "cmdRedGreenRandom", "cmdedit",

@@ -22,8 +22,7 @@ class TestLayoutEditor : public QObject {
     Q_OBJECT
 private slots:
     void OnAndOffWithoutAChangeKeepsThePositionAndTheKing() {
-        // The editor button shows the palette beside the board at its height; pressed again it plays the
-        // same position from "temporarylayout.txt", the King where he was.
+        // The editor shows its palette beside the board; switched off unchanged it plays the same position.
         Editing s;
         const std::string before = EncodePosition(s.g());
         s.Press("cmdedit");
@@ -39,8 +38,7 @@ private slots:
     }
 
     void CommandsDoNothingWhileTheEditorIsOn() {
-        // While the editor is on, load, save, reset, undo and recording do nothing: no question, no file
-        // dialog, the undo history and the position as they were.
+        // Load, save, reset, undo and recording do nothing while the editor is on.
         Editing s;
         s.Drag({5, 5}, {3, 5});   // a user move and the computer's answer
         const std::size_t undoEntries = s.g().Undo.size();
@@ -58,9 +56,7 @@ private slots:
     }
 
     void ClicksPlaceTheChosenKindAndAKingMovedToAnotherRowLosesHisColumn() {
-        // A click places the palette's kind in the editor, shown at once while the board itself waits; a sweep
-        // places it on every square passed; the corners stay Home. The King moved to another row is left with
-        // column 0 and his old row, his square a plain defender.
+        // Clicks and sweeps place the palette's kind; a King moved to another row is left with column 0.
         Editing s;
         s.Press("cmdedit");
         const QColor attacker = s.At(1, 6), defender = s.At(5, 6);   // as the narrower board shows them

@@ -9,9 +9,7 @@ class TestMainWindow : public QObject {
     Q_OBJECT
 private slots:
     void StartsOnTheDefaultLayout() {
-        // A first run writes the default configuration, loads and draws "patf.txt", shows its name and the
-        // counts of both sides (the King not counted), ticks Check1, says who moves and takes its colours
-        // from the scheme.
+        // A first run writes the configuration and shows "patf.txt" drawn, counted and in the scheme's colours.
         StartedWindow s;
         QVERIFY(!s.window.Ended() && s.folder.Exists("jarlsvakt.cfg") && s.Find("Check1")->isChecked());
         QStringList labels;
@@ -49,9 +47,7 @@ private slots:
         QTest::newRow("frame in the automatic game") << true << 0 << true;
     }
     void OnlyExitAnsweredYesWritesTheConfiguration() {
-        // "Exit?" answered Yes writes the configuration and ends the program, No goes on; closing by the
-        // frame ends it at once without a question or a write. The automatic game, which has no end of its
-        // own, is ended from inside its loop the same ways.
+        // Only "Exit?" answered Yes writes the configuration, also from inside the automatic game.
         QFETCH(bool, byFrame);
         QFETCH(int, answer);
         QFETCH(bool, autoGame);

@@ -40,8 +40,7 @@ private slots:
         QTest::newRow("normal Ok answers 0") << "vbnormal+vbinformation" << 9 << "Ok:0";
     }
     void StyleWordsPickPictureAndButtons() {
-        // Style words in any case and order, blanks round them ignored, pick one picture and the buttons;
-        // the text's CR LF is a line break under the title "Message".
+        // Style words in any case, order and spacing pick one picture and the buttons with their numbers.
         QFETCH(QString, style);
         QFETCH(int, picture);
         QFETCH(QString, buttons);
@@ -65,8 +64,7 @@ private slots:
         QTest::newRow("Escape") << "vbyesno" << "escape" << 2;
     }
     void AnswersTheButtonPressedOrCancel() {
-        // The box answers the number of the button clicked, or pressed with Enter while it has the focus
-        // (not the first one); closed without a button it answers 2, Cancel.
+        // The box answers the number of the button clicked or entered, or 2 (Cancel) when closed without one.
         QFETCH(QString, style);
         QFETCH(QString, how);
         QFETCH(int, answer);

@@ -35,8 +35,7 @@ private slots:
         QTest::newRow("replay a moves log") << "cmdloadlog" << QStringList{games, games};
     }
     void TheDialogsOfferTheirFilters() {
-        // Loading and saving offer the game files first and chosen, then OpenTafl positions; cancelled, nothing
-        // is loaded, saved or replayed.
+        // Load and save offer game files first and chosen, then OpenTafl positions; the replay game files alone.
         QFETCH(QString, command);
         QFETCH(QStringList, filters);
         StartedWindow s;
@@ -58,8 +57,7 @@ private slots:
         QTest::newRow("game file ending added") << "Game Files (*.txt)" << "opening" << "opening.txt";
     }
     void SavingUnderAFilterGivesItsEnding() {
-        // A name typed without a point gets the chosen filter's ending; an ".otn" file holds one OTN line, a
-        // game file the layout line as the game's own files have it.
+        // A name typed without a point in the save dialog gets the chosen filter's ending and its format.
         QFETCH(QString, filter);
         QFETCH(QString, typed);
         QFETCH(QString, saved);

@@ -50,8 +50,7 @@ class TestOptionsDialog : public QObject {
     Q_OBJECT
 private slots:
     void SymbolsWithAChosenPictureDrawThatPicture() {
-        // Clicking the Computer symbol, then a file, then Apply with "Symbols" draws the attackers with that
-        // picture at once; the configuration keeps it for the next run.
+        // A picture chosen for the Computer's symbol and applied draws the attackers at once and next run.
         Options s;
         QImage picture(32, 32, QImage::Format_RGB32);
         picture.fill(Magenta);
@@ -74,9 +73,7 @@ private slots:
     }
 
     void DefaultThenApplyGivesTheDefaultConfiguration() {
-        // After changing every option, Default then Apply brings the defaults back: "xp", "Sunk", the grid
-        // letters, "Symbols" with the four default pictures, the scheme's button colour; the configuration
-        // written at exit holds the default lines.
+        // Default then Apply, after every option changed, brings back the default look and configuration.
         Options s;
         s.Open([&] {
             s.ChooseScheme("wood");
@@ -125,8 +122,7 @@ private slots:
 
 
     void TheSlidersMakeTheColourShown() {
-        // Moving the red, green and blue sliders makes the colour shown in the preview and reported with each
-        // move; a colour set by the program moves the sliders without a report.
+        // The colour picker's sliders make the colour shown and reported; one set by the program is not reported.
         ColourPicker picker;
         picker.show();
         QSignalSpy reported(&picker, &ColourPicker::ColourChanged);

@@ -32,8 +32,7 @@ class TestPointerPlay : public QObject {
     Q_OBJECT
 private slots:
     void AcceptedDropIsAnsweredByOneComputerMove() {
-        // An accepted user move is answered by exactly one computer move; the board is closed and the
-        // pointer busy while the computer plays, and both open again afterwards.
+        // An accepted drop is answered by one computer move while the board is closed and the pointer busy.
         Playing p(30);
         bool enabledDuringMove = true;
         Qt::CursorShape cursor = Qt::ArrowCursor;
@@ -74,8 +73,7 @@ private slots:
     }
 
     void PressShowsTheReachAndTheHint() {
-        // Pressing on a defender paints the squares it can reach in the reach colour; letting go off its
-        // lines takes the highlight away. Moving the pointer shows the square's hint.
+        // Pressing on a defender paints its reach until let go; moving the pointer shows the square's hint.
         Playing p;
         const QColor reach = ui::ToQColor(p.g().ColourTable[11]), empty = p.At(3, 6);
         ui::BoardPicture* b = p.Board();
@@ -90,8 +88,7 @@ private slots:
     }
 
     void CaptureIsMarkedRemovedAndLogged() {
-        // The defender moving B3 to D3 takes the attacker on E3: during the capture's pause it carries the
-        // small mark a twelfth of a square inside its top-left corner, then it is removed and logged.
+        // A captured attacker carries the small mark during the capture's pause, then is removed and logged.
         Playing p(20);
         p.Load("capture.txt", CaptureLayout);
         QVERIFY(p.questions.WasAsked("Layout loaded from file:\r\ncapture.txt"));
@@ -113,8 +110,7 @@ private slots:
     }
 
     void UndoRestoresTheDrawnBoard() {
-        // A click on an older Undo entry shows that position as it was drawn and keeps the list; Undo
-        // takes the moves back one by one, the latest first.
+        // Undo and a click on an older Undo entry show the earlier position as it was drawn.
         Playing p;
         p.Load("capture.txt", CaptureLayout);
         p.Find("Check1")->setChecked(false);
@@ -136,8 +132,7 @@ private slots:
     }
 
     void KingDraggedHomeEndsTheGame() {
-        // The King dragged onto a Home corner wins: the message, no undo record, no reply, and the board
-        // takes no more pointer input until the layout is reset.
+        // The King dragged onto a corner wins, with no undo record or reply, and the board waits for a reset.
         Playing p;
         p.Load("capture.txt", CaptureLayout);
         const QColor king = p.At(1, 5);
@@ -154,7 +149,7 @@ private slots:
     }
 
     void CandidateLinePreviewsItsMove() {
-        // Pressing on a line of the attackers' ranked moves shows that move on the board; letting go hides it.
+        // Pressing on a line of the attackers' ranked moves shows that move on the board until let go.
         Playing p;
         p.Press("cmdGetAttackerRank");
         QListWidget* list = p.Find<QListWidget>("List1A");
