@@ -1,18 +1,14 @@
 #pragma once
-// Shared set-up of the window tests: a program folder of their own, a
-// window whose questions are answered from a script, and the pointer moves
-// of a drag on the board picture.
-#include <QApplication>
-#include <QDir>
-#include <QFile>
-#include <QListWidget>
-#include <QMouseEvent>
-#include <QTemporaryDir>
+// Shared set-up of the window tests: a main that keeps every file they and Qt write inside one temporary
+// folder, a program folder of their own, a window whose questions are answered from a script, a bounded
+// wait in a modal dialog, and the pointer moves of a drag on the board picture.
 #include <QtTest>
-#include <deque>
+#include <QtWidgets>
+#include <functional>
 #include <map>
-#include <string>
 #include <utility>
+#include <source_location>
+#include <string>
 #include <vector>
 
 #include "core/Game.h"
@@ -21,23 +17,70 @@
 
 namespace jv::uitest {
 
+// Runs a test class with a home, configuration, data, cache, runtime and temporary folder of its own, all
+// in one temporary folder removed at the end: Qt's own files (the file dialog's history) and every program
+// folder of the tests land there, never in the user's home.
+template <typename Test>
+int RunWindowTest(int argc, char** argv) {
+    QTemporaryDir root(QDir::tempPath() + "/" + QFileInfo(argv[0]).fileName() + "-XXXXXX");
+    if (!root.isValid()) return 1;
+    for (const char* name :
+         {"HOME", "TMPDIR", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"}) {
+        const QString path = root.filePath(name);
+        QDir().mkpath(path);
+        QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);   // a runtime folder's
+        qputenv(name, QFile::encodeName(path));
+    }
+    QApplication app(argc, argv);
+    QApplication::setAttribute(Qt::AA_Use96Dpi, true);   // as QTEST_MAIN does: pictures measured in pixels
+    Test test;
+    return QTest::qExec(&test, argc, argv);
+}
+#define WINDOW_TEST_MAIN(Test) \
+    int main(int argc, char** argv) { return jv::uitest::RunWindowTest<Test>(argc, argv); }
+
+// Runs open, which opens a modal dialog of type T and waits in it, and hands the dialog to answer once it is
+// up. Fails the test, at the caller's line, when no such dialog came or when it was still open five seconds
+// after the answer; it is then closed so that open returns. True when all went well.
+template <typename T>
+bool WhileOpen(const std::function<void()>& open, const std::function<void(T*)>& answer,
+               std::source_location at = std::source_location::current()) {
+    QPointer<T> dialog;
+    bool came = false, stuck = false;
+    QDeadlineTimer deadline(QDeadlineTimer::Forever);   // until the answer has been given
+    QTimer poll;
+    QObject::connect(&poll, &QTimer::timeout, [&] {
+        if (!came && (dialog = qobject_cast<T*>(QApplication::activeModalWidget()))) {
+            came = true;
+            answer(dialog);
+            deadline.setRemainingTime(5000);
+        } else if (dialog && dialog->isVisible() && deadline.hasExpired()) {
+            stuck = true;
+            dialog->reject();
+        }
+    });
+    poll.start(10);
+    open();
+    const QByteArray name = T::staticMetaObject.className();
+    const QByteArray problem = came ? " still open after its answer; closed" : " never opened";
+    if (!came || stuck) QTest::qFail(name + problem, at.file_name(), at.line());
+    return came && !stuck;
+}
+
 // A temporary program folder holding the shipped data files.
 class ProgramFolder {
 public:
     explicit ProgramFolder(bool withSchemes = true) {
         const QDir data(JARLSVAKT_DATA_DIR);
-        for (const QString& name : data.entryList(QDir::Files)) {
-            if (!withSchemes && name == "all.col") continue;
-            QFile::copy(data.filePath(name), dir_.filePath(name));
-        }
+        for (const QString& name : data.entryList(QDir::Files))
+            if (withSchemes || name != "all.col") QFile::copy(data.filePath(name), dir_.filePath(name));
     }
     std::string Path() const { return dir_.path().toStdString() + "/"; }
     std::string File(const std::string& name) const { return Path() + name; }
     bool Exists(const std::string& name) const { return QFile::exists(QString::fromStdString(File(name))); }
     std::string Read(const std::string& name) const {
         QFile file(QString::fromStdString(File(name)));
-        if (!file.open(QIODevice::ReadOnly)) return "";
-        return file.readAll().toStdString();
+        return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : "";
     }
     void Write(const std::string& name, const std::string& content) const {
         QFile file(QString::fromStdString(File(name)));
@@ -48,71 +91,21 @@ private:
     QTemporaryDir dir_;
 };
 
-// The questions the window put, and the answers it gets.
+// The questions the window put, and the answers it gets: one kept for a question, else Ok (1).
 struct Questions {
     std::vector<std::pair<std::string, std::string>> Asked;   // text, style
-    std::deque<int> Answers;
-    int DefaultAnswer = 1;
-    // Answers kept for one question whenever it is put, before the script.
     std::map<std::string, int> AnswerTo;
 
     void AnswerFor(ui::MainWindow& window) {
         window.Answerer = [this](const std::string& text, const std::string& style) {
             Asked.emplace_back(text, style);
-            if (auto fixed = AnswerTo.find(text); fixed != AnswerTo.end()) return fixed->second;
-            if (Answers.empty()) return DefaultAnswer;
-            const int answer = Answers.front();
-            Answers.pop_front();
-            return answer;
+            return AnswerTo.contains(text) ? AnswerTo[text] : 1;
         };
     }
     bool WasAsked(const std::string& text) const {
-        for (const auto& [t, s] : Asked)
-            if (t == text) return true;
-        return false;
+        return std::any_of(Asked.begin(), Asked.end(), [&](const auto& q) { return q.first == text; });
     }
 };
-
-// A window started in its own program folder, shown, its questions
-// answered from a script and its pauses cut to nothing.
-struct StartedWindow {
-    ProgramFolder folder;
-    ui::MainWindow window{folder.Path()};
-    Questions questions;
-    StartedWindow() {
-        questions.AnswerFor(window);
-        window.PauseLimit = 0;
-        window.Start();
-        window.show();
-        (void)QTest::qWaitForWindowExposed(&window);
-    }
-    template <typename T>
-    T* Find(const char* name) {
-        return window.findChild<T*>(name);
-    }
-};
-
-// A layout line of a board built from one text per Col, one character per
-// Row: '.' empty, 'd' defender, 'a' attacker, 'K' the King, 'H' a corner.
-inline std::string LayoutText(std::initializer_list<const char*> cols) {
-    const int width = static_cast<int>(cols.size());
-    const int height = static_cast<int>(std::string(*cols.begin()).size());
-    int kingCol = 0, kingRow = 0, col = 0;
-    std::string squares;
-    for (const char* text : cols) {
-        ++col;
-        for (int row = 1; row <= height; ++row) {
-            const char c = text[row - 1];
-            if (c == 'K') {
-                kingCol = col;
-                kingRow = row;
-            }
-            squares += c == 'a' ? '1' : (c == 'd' || c == 'K') ? '0' : c == 'H' ? 'H' : 'E';
-        }
-    }
-    auto two = [](int n) { return std::string(1, static_cast<char>('0' + n / 10)) + static_cast<char>('0' + n % 10); };
-    return two(width) + two(height) + two(kingCol) + two(kingRow) + squares + "\r\n";
-}
 
 // Sends one mouse event to the board picture at a pixel position.
 inline void SendMouse(ui::BoardPicture* picture, QEvent::Type type, QPoint at, Qt::MouseButtons held) {
@@ -129,6 +122,61 @@ inline void Drag(ui::BoardPicture* picture, Square from, Square to) {
     SendMouse(picture, QEvent::MouseMove, (start + end) / 2, Qt::LeftButton);
     SendMouse(picture, QEvent::MouseMove, end, Qt::LeftButton);
     SendMouse(picture, QEvent::MouseButtonRelease, end, Qt::NoButton);
+}
+
+// A window (MainWindow or one made for a test) started in its own program folder, shown, its questions
+// answered from a script, its files chosen from a list and its pauses cut to nothing.
+template <typename Window = ui::MainWindow>
+struct Started {
+    ProgramFolder folder;
+    Window window{folder.Path()};
+    Questions questions;
+    std::string NextFile;   // the file dialog's next answer, in the program folder; "" cancels
+
+    explicit Started(int pauseLimit = 0) {
+        questions.AnswerFor(window);
+        window.FileChooser = [this](FileMode, const std::string&) { return std::exchange(NextFile, ""); };
+        window.PauseLimit = pauseLimit;
+        window.Start();
+        window.show();
+        (void)QTest::qWaitForWindowExposed(&window);
+    }
+    template <typename T = QAbstractButton>
+    T* Find(const char* name) { return window.template findChild<T*>(name); }
+    Game& g() { return window.game(); }
+    ui::BoardPicture* Board() { return window.Board(); }
+    void Press(const char* name) { QTest::mouseClick(Find<QWidget>(name), Qt::LeftButton); }
+    void Drag(Square from, Square to) { uitest::Drag(Board(), from, to); }
+    void Click(int col, int row) {
+        SendMouse(Board(), QEvent::MouseButtonPress, Board()->SquareCentre(col, row), Qt::LeftButton);
+        SendMouse(Board(), QEvent::MouseButtonRelease, Board()->SquareCentre(col, row), Qt::NoButton);
+    }
+    QImage Picture() { return Board()->Pixmap().toImage(); }
+    QColor At(int col, int row) { return Picture().pixelColor(Board()->SquareCentre(col, row)); }
+    // Loads a layout written to the program folder through the load command.
+    void Load(const std::string& name, const std::string& content) {
+        folder.Write(name, content);
+        NextFile = name;
+        Press("cmdload");
+    }
+};
+using StartedWindow = Started<>;
+
+// A layout line of a board built from one text per Col, one character per Row: '.' empty, 'd' defender,
+// 'a' attacker, 'K' the King, 'H' a corner.
+inline std::string LayoutText(std::initializer_list<const char*> cols) {
+    auto two = [](int n) { return std::string{static_cast<char>('0' + n / 10), static_cast<char>('0' + n % 10)}; };
+    int kingCol = 0, kingRow = 0, col = 0;
+    std::string squares;
+    for (const std::string text : cols) {
+        ++col;
+        for (std::size_t row = 0; row < text.size(); ++row) {
+            if (text[row] == 'K') kingCol = col, kingRow = static_cast<int>(row) + 1;
+            const char c = text[row];
+            squares += c == 'a' ? '1' : c == 'd' || c == 'K' ? '0' : c == 'H' ? 'H' : 'E';
+        }
+    }
+    return two(col) + two(static_cast<int>(squares.size()) / col) + two(kingCol) + two(kingRow) + squares + "\r\n";
 }
 
 // The lines of a list widget.

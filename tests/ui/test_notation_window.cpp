@@ -1,53 +1,24 @@
 // The window and the tafl world's notation: the load and save dialogs offer OpenTafl positions after the
-// game files, and the Game menu exports the game record.
-#include <QAction>
-#include <QCheckBox>
-#include <QFileDialog>
-#include <QMenu>
-#include <QMenuBar>
-#include <QPushButton>
-#include <QTimer>
-#include <QtTest>
-#include <functional>
+// game files, a name saved under a filter gets its ending, and the Game menu exports the game record.
 
 #include "WindowFixture.h"
-#include "ui/widgets/FileNameDialog.h"
 
 using namespace jv;
 using namespace jv::uitest;
 
 namespace {
 
-const char* const OpeningOtn = "/3ttttt3/5t5/11/t4T4t/t3TTT3t/tt1TTKTT1tt/t3TTT3t/t4T4t/11/5t5/3ttttt3/";
+const char* const OpeningOtn = "/3ttttt3/5t5/11/t4T4t/t3TTT3t/tt1TTKTT1tt/t3TTT3t/t4T4t/11/5t5/3ttttt3/\r\n";
 
-// Runs open, which shows the file dialog, and hands the dialog to handle once it is up. False when no
-// dialog came.
-bool WithFileDialog(const std::function<void()>& open, const std::function<void(QFileDialog*)>& handle) {
-    bool handled = false;
-    QTimer poll;
-    poll.setInterval(10);
-    QObject::connect(&poll, &QTimer::timeout, [&] {
-        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-        if (dialog == nullptr || handled) return;
-        handled = true;
-        handle(dialog);
-    });
-    poll.start();
-    open();
-    poll.stop();
-    return handled;
-}
-
-// The filters a command's file dialog offers; the dialog is cancelled.
-QStringList FiltersOf(StartedWindow& s, const char* command) {
-    QStringList filters;
-    const bool shown = WithFileDialog([&] { s.Find<QPushButton>(command)->click(); },
-                                      [&](QFileDialog* dialog) {
-                                          filters = dialog->nameFilters();
-                                          filters.prepend(dialog->selectedNameFilter());
-                                          dialog->reject();
-                                      });
-    return shown ? filters : QStringList{"no dialog"};
+// Chooses a filter in the dialog's type box with the arrow keys, types a name in its name field and
+// presses Enter there, as a user saves.
+void SaveAsAUserDoes(QFileDialog* dialog, const QString& filter, const QString& name) {
+    auto* types = dialog->findChild<QComboBox*>("fileTypeCombo");
+    auto* field = dialog->findChild<QLineEdit*>("fileNameEdit");
+    for (int i = 0; i < types->count() && types->currentText() != filter; ++i) QTest::keyClick(types, Qt::Key_Down);
+    field->clear();
+    QTest::keyClicks(field, name);
+    QTest::keyClick(field, Qt::Key_Return);
 }
 
 }  // namespace
@@ -55,67 +26,68 @@ QStringList FiltersOf(StartedWindow& s, const char* command) {
 class TestNotationWindow : public QObject {
     Q_OBJECT
 private slots:
-    void TheFiltersPairPatternsWithDescriptions();
-    void TheLoadAndSaveDialogsOfferOpenTaflPositions();
-    void SavingUnderTheOpenTaflFilterAddsItsEnding();
-    void TheGameMenuExportsTheGameRecord();
+    void TheDialogsOfferTheirFilters_data() {
+        QTest::addColumn<QString>("command");
+        QTest::addColumn<QStringList>("filters");   // the one chosen first, then all
+        const QString games = "Game Files (*.txt)", positions = "OpenTafl positions (*.otn)";
+        QTest::newRow("load") << "cmdload" << QStringList{games, games, positions};
+        QTest::newRow("save") << "cmdsave" << QStringList{games, games, positions};
+        QTest::newRow("replay a moves log") << "cmdloadlog" << QStringList{games, games};
+    }
+    void TheDialogsOfferTheirFilters() {
+        // Load and save offer game files first and chosen, then OpenTafl positions; the replay game files alone.
+        QFETCH(QString, command);
+        QFETCH(QStringList, filters);
+        StartedWindow s;
+        s.window.FileChooser = nullptr;   // the program's own dialog
+        QStringList offered;
+        WhileOpen<QFileDialog>([&] { s.Press(qPrintable(command)); }, [&](QFileDialog* dialog) {
+            offered = QStringList{dialog->selectedNameFilter()} + dialog->nameFilters();
+            QTest::keyClick(dialog, Qt::Key_Escape);
+        });
+        QCOMPARE(offered, filters);
+        QVERIFY(s.questions.Asked.empty());
+    }
+    void SavingUnderAFilterGivesItsEnding_data() {
+        QTest::addColumn<QString>("filter");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("saved");
+        QTest::newRow("OpenTafl ending added") << "OpenTafl positions (*.otn)" << "opening" << "opening.otn";
+        QTest::newRow("a name with a point kept") << "OpenTafl positions (*.otn)" << "opening.txt" << "opening.txt";
+        QTest::newRow("game file ending added") << "Game Files (*.txt)" << "opening" << "opening.txt";
+    }
+    void SavingUnderAFilterGivesItsEnding() {
+        // A name typed without a point in the save dialog gets the chosen filter's ending and its format.
+        QFETCH(QString, filter);
+        QFETCH(QString, typed);
+        QFETCH(QString, saved);
+        StartedWindow s;
+        s.window.FileChooser = nullptr;   // the program's own dialog
+        WhileOpen<QFileDialog>([&] { s.Press("cmdsave"); },
+                               [&](QFileDialog* dialog) { SaveAsAUserDoes(dialog, filter, typed); });
+        const std::string name = saved.toStdString();
+        QCOMPARE(s.folder.Read(name), name.ends_with(".otn") ? std::string(OpeningOtn) : s.folder.Read("patf.txt"));
+        QVERIFY(s.questions.WasAsked("Game saved to file:\r\n" + s.folder.File(name)));
+    }
+
+    void TheGameMenuExportsTheGameRecord() {
+        // Game > "Export game record..." writes the moves of the undo history in standard notation.
+        StartedWindow s;
+        auto* exportRecord = s.Find<QAction>("mnuexportrecord");
+        QCOMPARE(exportRecord->text(), QString("&Export game record..."));
+        s.Find<QCheckBox>("Check1")->setChecked(false);   // no reply: one move to write
+        s.Drag({4, 6}, {4, 3});   // D6 > D3, f8-c8
+        s.window.FileChooser = [&](FileMode mode, const std::string& title) {
+            const bool asked = mode == FileMode::Save && title == "Select an output file for the game record";
+            return asked ? s.folder.File("record.txt") : "";
+        };
+        exportRecord->trigger();
+        const std::string patf = s.folder.Read("patf.txt");
+        QCOMPARE(s.folder.Read("record.txt"),
+                 "[layout \"" + patf.substr(0, patf.size() - 2) + "\"]\r\n[size \"11x11\"]\r\n\r\n1. f8-c8\r\n");
+        QVERIFY(s.questions.WasAsked("Game record saved to file:\r\n" + s.folder.File("record.txt")));
+    }
 };
 
-void TestNotationWindow::TheFiltersPairPatternsWithDescriptions() {
-    // Patterns and descriptions joined by ";;" pair up in order as the dialog's filters.
-    QCOMPARE(ui::FileFilters("*.txt", "Game Files"), QString("Game Files (*.txt)"));
-    QCOMPARE(ui::FileFilters("*.txt;;*.otn", "Game Files;;OpenTafl positions"),
-             QString("Game Files (*.txt);;OpenTafl positions (*.otn)"));
-}
-
-void TestNotationWindow::TheLoadAndSaveDialogsOfferOpenTaflPositions() {
-    // Loading and saving offer "Game Files (*.txt)" first and chosen, then "OpenTafl positions (*.otn)";
-    // the replay of a moves log offers the game files alone.
-    StartedWindow s;
-    const QStringList both{"Game Files (*.txt)", "Game Files (*.txt)", "OpenTafl positions (*.otn)"};
-    QCOMPARE(FiltersOf(s, "cmdload"), both);
-    QCOMPARE(FiltersOf(s, "cmdsave"), both);
-    QCOMPARE(FiltersOf(s, "cmdloadlog"), (QStringList{"Game Files (*.txt)", "Game Files (*.txt)"}));
-    QVERIFY(s.questions.Asked.empty());   // each dialog cancelled: nothing loaded, saved or replayed
-}
-
-void TestNotationWindow::SavingUnderTheOpenTaflFilterAddsItsEnding() {
-    // A name typed without a point under "OpenTafl positions" is saved with ".otn", as one OTN line.
-    StartedWindow s;
-    const bool shown = WithFileDialog([&] { s.Find<QPushButton>("cmdsave")->click(); },
-                                      [&](QFileDialog* dialog) {
-                                          dialog->selectNameFilter("OpenTafl positions (*.otn)");
-                                          dialog->selectFile("opening");
-                                          static_cast<QDialog*>(dialog)->accept();   // as the Save button does
-                                      });
-    QVERIFY(shown);
-    QCOMPARE(s.folder.Read("opening.otn"), std::string(OpeningOtn) + "\r\n");
-    QVERIFY(s.questions.WasAsked("Game saved to file:\r\n" + s.folder.File("opening.otn")));
-}
-
-void TestNotationWindow::TheGameMenuExportsTheGameRecord() {
-    // Game > "Export game record..." writes the moves of the undo history in standard notation.
-    StartedWindow s;
-    auto* exportRecord = s.Find<QAction>("mnuexportrecord");
-    QVERIFY(exportRecord != nullptr);
-    QCOMPARE(exportRecord->text(), QString("&Export game record..."));
-    QMenu* game = s.window.menuBar()->actions().front()->menu();
-    QVERIFY(game->actions().contains(exportRecord));
-
-    s.Find<QCheckBox>("Check1")->setChecked(false);   // no reply: one move to write
-    Drag(s.window.Board(), Square{4, 6}, Square{4, 3});   // D6 > D3, f8-c8
-    QCOMPARE(s.window.game().Undo.size(), std::size_t(1));
-    s.window.FileChooser = [&](FileMode mode, const std::string& title) {
-        return mode == FileMode::Save && title == "Select an output file for the game record"
-                   ? s.folder.File("record.txt")
-                   : std::string();
-    };
-    exportRecord->trigger();
-    const std::string patf = s.folder.Read("patf.txt");
-    QCOMPARE(s.folder.Read("record.txt"),
-             "[layout \"" + patf.substr(0, patf.size() - 2) + "\"]\r\n[size \"11x11\"]\r\n\r\n1. f8-c8\r\n");
-    QVERIFY(s.questions.WasAsked("Game record saved to file:\r\n" + s.folder.File("record.txt")));
-}
-
-QTEST_MAIN(TestNotationWindow)
+WINDOW_TEST_MAIN(TestNotationWindow)
 #include "test_notation_window.moc"

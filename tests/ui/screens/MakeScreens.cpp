@@ -1,133 +1,99 @@
-// Draws the pictures of the README: the window in play after a few moves
-// with a capture in the log, the message box, the layout editor, the options
-// dialog and the board in every shipped colour scheme. Usage:
+// Draws the pictures of the README: the window in play after a few moves with a capture in the log, the
+// message box, the layout editor, the options dialog and the board in every shipped colour scheme. Usage:
 //   ui_screens <output folder>
 // Runs on any Qt platform (offscreen or under xvfb-run).
-#include <QApplication>
-#include <QAction>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QPushButton>
-#include <QtTest>
-#include <QDir>
-#include <QListWidget>
-#include <QStyleFactory>
-#include <QTimer>
-#include <functional>
 #include <iostream>
 
 #include "../WindowFixture.h"
 #include "records/ColourScheme.h"
-#include "ui/EditorPalette.h"
 #include "ui/Form2.h"
 #include "ui/MsgForm.h"
 #include "ui/Surface.h"
-#include "ui/widgets/PictureButton.h"
 
 using namespace jv;
 using namespace jv::uitest;
 
 namespace {
 
-// Saved with the strongest compression, which keeps the pictures small.
-bool Save(QWidget& widget, const QString& path) {
-    QTest::qWait(200);   // the lists lay out their lines a moment later
-    const QImage image = widget.grab().toImage().convertToFormat(QImage::Format_RGB888);
-    const bool ok = image.save(path, "PNG", 0);
-    std::cout << (ok ? "wrote " : "could not write ") << path.toStdString() << "\n";
-    return ok;
-}
-
-// Saves one part of a window.
-bool SaveArea(QWidget& window, const QRect& area, const QString& path) {
+// Saves a part of a widget, all of it by default, with the strongest compression, which keeps the pictures
+// small, once the lists have laid out their lines.
+bool Save(QWidget& widget, const QString& path, QRect area = QRect(QPoint(0, 0), QSize(-1, -1))) {
     QTest::qWait(200);
-    const QImage image = window.grab(area).toImage().convertToFormat(QImage::Format_RGB888);
-    const bool ok = image.save(path, "PNG", 0);
+    const bool ok = widget.grab(area).toImage().convertToFormat(QImage::Format_RGB888).save(path, "PNG", 0);
     std::cout << (ok ? "wrote " : "could not write ") << path.toStdString() << "\n";
     return ok;
 }
 
-// A window of its own, started on the default layout.
-struct Screen {
-    ProgramFolder folder;
-    ui::MainWindow window{folder.Path()};
-    Questions questions;
+// A window of its own at a size, started on the default layout.
+struct Screen : StartedWindow {
     Screen(int width, int height) {
-        questions.AnswerFor(window);
-        window.PauseLimit = 0;
-        window.Start();
         window.resize(width, height);
-        window.show();
         QApplication::processEvents();
     }
-    QPushButton* Button(const char* name) { return window.findChild<QPushButton*>(name); }
-    void Click(int col, int row) {
-        const QPoint at = window.Board()->SquareCentre(col, row);
-        SendMouse(window.Board(), QEvent::MouseButtonPress, at, Qt::LeftButton);
-        SendMouse(window.Board(), QEvent::MouseButtonRelease, at, Qt::NoButton);
-    }
-    void Choose(const char* kind) {
-        QTest::mouseClick(window.findChild<ui::PictureButton*>(kind), Qt::LeftButton);
-    }
     // Opens the options dialog from the menu and runs steps while it is open.
-    void WithOptions(const std::function<void(ui::Form2&)>& steps) {
-        QTimer::singleShot(0, &window, [this, steps] {
-            auto* form = window.findChild<ui::Form2*>("Form2");
-            steps(*form);
-            form->reject();
-        });
-        window.findChild<QAction*>("mnuoptions")->trigger();
+    void WithOptions(const std::function<void(ui::Form2*)>& steps) {
+        WhileOpen<ui::Form2>([this] { window.findChild<QAction*>("mnuoptions")->trigger(); },
+                             [&](ui::Form2* form) { steps(form), form->reject(); });
     }
 };
 
-// The editor at work on the default layout: four attackers more, the King
-// moved along his row, and defenders chosen to place next.
+// The user's defenders against the computer, D6 up to C6 walking into a capture, then two more moves, the
+// pointer's hint shown; then the debug panel with the attackers' reasoning, and the message box.
+bool SaveWindow(const QString& out) {
+    Screen s(1200, 760);
+    for (auto [from, to] : {std::pair{Square{4, 6}, Square{3, 6}}, {{6, 8}, {3, 8}}, {{8, 6}, {8, 9}}})
+        s.Drag(from, to);
+    SendMouse(s.Board(), QEvent::MouseMove, s.Board()->SquareCentre(6, 6), Qt::NoButton);
+    bool ok = Save(s.window, out + "/window-in-play.png");
+    s.window.findChild<QAction*>("mnudebug")->trigger();
+    s.Press("cmdGetAttackerRank");
+    ok = Save(s.window, out + "/window-debug.png") && ok;
+    ui::MsgForm form(&s.window);
+    form.Prepare("King Captured !\r\nClick Reset to start a new game", "vbcritical+vbok");
+    form.show();
+    ok = Save(form, out + "/message-box.png") && ok;
+    form.Prepare("Step 3 of 12\r\nStop ?", "vbquestion+vbYesNoCancel");
+    form.adjustSize();
+    return Save(form, out + "/message-question.png") && ok;
+}
+
+// The editor at work on the default layout: four attackers more, the King moved along his row, and
+// defenders chosen to place next.
 bool SaveEditor(const QString& out) {
     Screen s(1500, 800);
-    QTest::mouseClick(s.Button("cmdedit"), Qt::LeftButton);
-    QApplication::processEvents();
+    s.Press("cmdedit");
     for (const auto& [col, row] : {std::pair{3, 3}, {3, 9}, {9, 3}, {9, 9}}) s.Click(col, row);
-    s.Choose("KindKing");
+    s.Press("KindKing");
     s.Click(6, 3);
-    s.Choose("KindDefender");
+    s.Press("KindDefender");
     s.Click(6, 6);
-    SendMouse(s.window.Board(), QEvent::MouseMove, s.window.Board()->SquareCentre(6, 3), Qt::NoButton);
-    QWidget* palette = s.window.findChild<QWidget*>("Picture2");
-    const QRect area(0, 0, palette->mapTo(&s.window, QPoint(palette->width(), 0)).x() + 2, s.window.height());
-    return SaveArea(s.window, area, out + "/editor.png");
+    SendMouse(s.Board(), QEvent::MouseMove, s.Board()->SquareCentre(6, 3), Qt::NoButton);
+    QWidget* palette = s.Find<QWidget>("Picture2");
+    const int right = palette->mapTo(&s.window, QPoint(palette->width(), 0)).x() + 2;
+    return Save(s.window, out + "/editor.png", QRect(0, 0, right, s.window.height()));
 }
 
-// The options dialog with the Computer frame chosen.
+// The options dialog with the Computer frame chosen, and the board in each scheme of "all.col", chosen and
+// applied in the dialog: the squares with their labels and a small margin.
 bool SaveOptions(const QString& out) {
-    Screen s(1200, 760);
-    bool ok = false;
-    s.WithOptions([&](ui::Form2& form) {
-        QTest::mouseClick(form.findChild<ui::PictureButton*>("Image1"), Qt::LeftButton);
-        form.adjustSize();
-        ok = Save(form, out + "/options.png");
-    });
-    return ok;
-}
-
-// The board in each scheme of "all.col", chosen and applied in the dialog:
-// the squares with their labels and a small margin.
-bool SaveSchemes(const QString& out) {
     Screen s(1400, 860);
-    bool ok = true;
-    for (const std::string& name : FillSchemeList(s.window.game())) {
-        s.WithOptions([&](ui::Form2& form) {
-            auto* box = form.findChild<QComboBox*>("Combo1");
-            box->setCurrentIndex(box->findText(QString::fromStdString(name)));
-            QTest::mouseClick(form.findChild<QPushButton*>("Command1"), Qt::LeftButton);
+    bool ok = false;
+    s.WithOptions([&](ui::Form2* form) {
+        QTest::mouseClick(form->findChild<QWidget*>("Image1"), Qt::LeftButton);
+        form->adjustSize();
+        ok = Save(*form, out + "/options.png");
+    });
+    for (const std::string& name : FillSchemeList(s.g())) {
+        s.WithOptions([&](ui::Form2* form) {
+            form->findChild<QComboBox*>("Combo1")->setCurrentText(QString::fromStdString(name));
+            QTest::mouseClick(form->findChild<QWidget*>("Command1"), Qt::LeftButton);
         });
-        QApplication::processEvents();
-        ui::BoardPicture* board = s.window.Board();
-        const Game& g = s.window.game();
-        const int half = ui::ToPixels(board->Geometry().SquareSize) / 2;
-        const QPoint first = board->SquareCentre(1, 1) - QPoint(half + ui::LabelMarginLeft, half + ui::LabelMarginTop);
-        const QPoint last = board->SquareCentre(g.BoardWidth, g.BoardHeight) + QPoint(half + 8, half + 8);
-        const QRect area(board->mapTo(&s.window, first), board->mapTo(&s.window, last));
-        ok = SaveArea(s.window, area, out + "/scheme-" + QString::fromStdString(name) + ".png") && ok;
+        const int half = ui::ToPixels(s.Board()->Geometry().SquareSize) / 2;
+        const QPoint labels(ui::LabelMarginLeft, ui::LabelMarginTop);
+        const QPoint first = s.Board()->SquareCentre(1, 1) - QPoint(half, half) - labels;
+        const QPoint last = s.Board()->SquareCentre(s.g().BoardWidth, s.g().BoardHeight) + QPoint(half + 8, half + 8);
+        const QRect area(s.Board()->mapTo(&s.window, first), s.Board()->mapTo(&s.window, last));
+        ok = Save(s.window, out + "/scheme-" + QString::fromStdString(name) + ".png", area) && ok;
     }
     return ok;
 }
@@ -139,47 +105,6 @@ int main(int argc, char** argv) {
     QApplication::setStyle(QStyleFactory::create("Fusion"));
     const QString out = argc > 1 ? argv[1] : "docs/screens";
     QDir().mkpath(out);
-
-    ProgramFolder folder;
-    ui::MainWindow window(folder.Path());
-    Questions questions;
-    questions.AnswerFor(window);
-    window.PauseLimit = 0;
-    window.Start();
-    window.resize(1200, 760);
-    window.show();
-    QApplication::processEvents();
-
-    // The user's defenders against the computer: D6 up to C6 walks into a
-    // capture, then two more moves.
-    Drag(window.Board(), {4, 6}, {3, 6});
-    Drag(window.Board(), {6, 8}, {3, 8});
-    Drag(window.Board(), {8, 6}, {8, 9});
-    QApplication::processEvents();
-    // Show the pointer's hint as a player would see it.
-    SendMouse(window.Board(), QEvent::MouseMove, window.Board()->SquareCentre(6, 6), Qt::NoButton);
-    QApplication::processEvents();
-    bool ok = Save(window, out + "/window-in-play.png");
-
-    // The debug panel, and the attackers' reasoning about the position.
-    window.findChild<QAction*>("mnudebug")->trigger();
-    QTest::mouseClick(window.findChild<QPushButton*>("cmdGetAttackerRank"), Qt::LeftButton);
-    QApplication::processEvents();
-    ok = Save(window, out + "/window-debug.png") && ok;
-
-    ui::MsgForm form(&window);
-    form.Prepare("King Captured !\r\nClick Reset to start a new game", "vbcritical+vbok");
-    form.show();
-    QApplication::processEvents();
-    ok = Save(form, out + "/message-box.png") && ok;
-    form.Prepare("Step 3 of 12\r\nStop ?", "vbquestion+vbYesNoCancel");
-    QApplication::processEvents();
-    form.adjustSize();
-    ok = Save(form, out + "/message-question.png") && ok;
-    form.hide();
-
-    ok = SaveEditor(out) && ok;
-    ok = SaveOptions(out) && ok;
-    ok = SaveSchemes(out) && ok;
-    return ok ? 0 : 1;
+    const bool window = SaveWindow(out), editor = SaveEditor(out), options = SaveOptions(out);
+    return window && editor && options ? 0 : 1;
 }
