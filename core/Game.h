@@ -109,6 +109,7 @@ struct SessionState {
     bool BoardEnabled = true;    // Picture1 takes pointer input; false once a game ends
     bool GameOver = false;       // the King has been captured or is at Home
     bool Ending = false;         // the program is ending
+    bool AutoGameRunning = false;   // the automatic game is playing; a press of AutoGame stops it
     std::array<int, 2> TurnCounts{0, 0};
     int LayoutLoadDepth = 0;     // guards LoadLayout's retry of the previous file
     // Counts the boards NewBoard has set up. A move whose pauses let a load

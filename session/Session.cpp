@@ -5,6 +5,7 @@
 #include "core/GameView.h"
 #include "records/ColourScheme.h"
 #include "records/Configuration.h"
+#include "records/PositionRecord.h"
 #include "records/ProgramFolder.h"
 #include "records/TextFile.h"
 #include "session/ComputerMoves.h"
@@ -50,15 +51,27 @@ bool StartUp(Game& g, const std::function<void()>& applySettings) {
 bool GameFinished(const Game& g) { return g.GameOver; }
 
 void AutoGame(Game& g) {
-    // Runs on after a game has ended: only the program's end stops it, and
-    // the program ends at once, even between the two moves of a round.
-    while (!g.Ending) {
-        g.View->DoEvents();
-        if (g.Ending) return;
-        MakeGreenAutoMove(g);
-        if (g.Ending) return;
-        MakeRedAutoMove(g);
+    // A press while it runs is the user's stop.
+    if (g.AutoGameRunning) {
+        g.AutoGameRunning = false;
+        return;
     }
+    // Runs on after a game has ended: only the user's stop or the program's
+    // end stops it, at once, even between the two moves of a round.
+    g.AutoGameRunning = true;
+    const auto goesOn = [&g] { return g.AutoGameRunning && !g.Ending; };
+    while (goesOn()) {
+        const std::string before = EncodePosition(g);
+        g.View->DoEvents();
+        if (!goesOn()) break;
+        MakeGreenAutoMove(g);
+        if (!goesOn()) break;
+        MakeRedAutoMove(g);
+        // Neither side could move: without a pause the two messages would
+        // follow each other with no moment for Stop or Exit.
+        if (goesOn() && EncodePosition(g) == before) g.View->Pause(1000);
+    }
+    g.AutoGameRunning = false;
 }
 
 bool ExitCommand(Game& g) {

@@ -20,7 +20,8 @@ bool StartUp(Game& g, const std::function<void()>& applySettings);
 // longer takes pointer input until the next layout is loaded.
 bool GameFinished(const Game& g);
 
-// Plays both sides, defenders first, until the program ends.
+// Plays both sides, defenders first, until the user stops it or the program
+// ends; pressed while it plays, it stops.
 void AutoGame(Game& g);
 
 // The exit command (cmdexit): asks "Exit?"; on Yes writes the configuration

@@ -100,6 +100,9 @@ private:
     // The commands (MainWindowCommands.cpp).
     void ConnectCommands();
     void ConnectDebugButtons();
+    // AutoGame's button: starts the automatic game, its caption saying how to
+    // stop it while it plays; pressed again, it stops it.
+    void ToggleAutoGame();
     void ShowHelp();
     void ShowAbout();
     // The options dialog (Form2), and what its Apply changes in the window:

@@ -5,6 +5,7 @@
 #include <QEvent>
 #include <QListWidget>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QPushButton>
 
 #include "ai/AttackerRank.h"
@@ -42,7 +43,7 @@ void MainWindow::ConnectCommands() {
     onClick("cmdloadlog", [this] { ReplayCommand(game_); });
     onClick("cmdedit", [this] { EditorCommand(game_); });
     onClick("cmdexit", [this] { ExitCommand(game_); });
-    onClick("Command12", [this] { AutoGame(game_); });
+    onClick("Command12", [this] { ToggleAutoGame(); });
     onMenu("mnuloadgame", [this] { LoadCommand(game_); });
     onMenu("mnusavegame", [this] { SaveCommand(game_); });
     onMenu("mnuexportrecord", [this] { ExportGameRecordCommand(game_); });
@@ -112,6 +113,17 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
 
 void MainWindow::PlaceInEditor(int col, int row) {
     if (jv::PlaceInEditor(game_, col, row, picture2_->Kind())) picture_->DrawBoard();
+}
+
+void MainWindow::ToggleAutoGame() {
+    if (game_.AutoGameRunning) {
+        AutoGame(game_);   // the stop
+        return;
+    }
+    QPointer<QPushButton> button = findChild<QPushButton*>("Command12");
+    button->setText("Stop AutoGame");
+    AutoGame(game_);
+    if (button) button->setText("AutoGame");
 }
 
 void MainWindow::ShowHelp() {

@@ -285,7 +285,7 @@ TEST(ImpatientUser, AutoGameSurvivesEveryCommandUntilTheExit) {
         [&] { ResetCommand(g); }, [&] { UndoCommand(g); }, [&] { s.view.FileChoices = {"pattern1.txt"}; LoadCommand(g); },
         [&] { EditorCommand(g); }, [&] { RedGreenRandom(g); }, [&] { EditorCommand(g); },
         [&] { s.view.FileChoices = {"pattern4.txt"}; LoadCommand(g); }, [&] { Undo_MouseUp(g, 0); },
-        [&] { AutoGame(g); }, [&] { RedGreenRandom(g); },
+        [&] { MakeGreenAutoMove(g); }, [&] { RedGreenRandom(g); },
     };
     for (std::size_t k = 0; k < schedule.size(); ++k) s.view.At[static_cast<int>(7 * k + 3)] = schedule[k];
     const int exitAt = static_cast<int>(7 * schedule.size() + 10);

@@ -1,6 +1,9 @@
 // The program's start and its exit.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
+#include "records/LayoutFile.h"
 #include "session/Session.h"
 #include "support/Fixtures.h"
 
@@ -42,4 +45,19 @@ TEST(ExitCommand, OnlyYesWritesTheConfigurationAndEnds) {
     EXPECT_EQ(t.view.Messages(), Calls(2, "Exit? [vbQuestion + vbYesNo]"));
     EXPECT_EQ(t.ReadFile("jarlsvakt.cfg").substr(0, 16), "xp.col\r\npatf.txt");
     EXPECT_TRUE(t.view.Ended);
+}
+
+TEST(AutoGame, APressWhileItPlaysStopsItAndARoundWithoutAMovePausesForIt) {
+    // AutoGame pressed again stops it; when neither side can move, each round pauses, so the press gets in.
+    TestGame t;
+    ASSERT_FALSE(ApplyLayoutLine(t.g, "05050000HEEEHEEEEEEEEEEEEEEEHEEEH"));   // no piece on the board
+    int events = 0;
+    t.view.OnEvents = [&] {
+        if (++events == 6) AutoGame(t.g);
+    };
+    AutoGame(t.g);
+    EXPECT_EQ(events, 6);
+    EXPECT_FALSE(t.g.AutoGameRunning);
+    EXPECT_FALSE(t.g.Ending);
+    EXPECT_EQ(std::count(t.view.Calls.begin(), t.view.Calls.end(), "Pause 1000"), 2);
 }
