@@ -48,20 +48,20 @@ void NewBoard(Game& g, int width, int height) {
     ClearEventLog(g);
 }
 
-void SetHomeSquares(Game& g, int code) {
+void SetHomeSquares(Position& g, int code) {
     g.Board(1, 1) = code;
     g.Board(g.BoardWidth, 1) = code;
     g.Board(1, g.BoardHeight) = code;
     g.Board(g.BoardWidth, g.BoardHeight) = code;
 }
 
-bool IsKingOn(const Game& g, int col, int row) { return col == g.KingCol && row == g.KingRow; }
+bool IsKingOn(const Position& g, int col, int row) { return col == g.KingCol && row == g.KingRow; }
 
-bool IsCorner(const Game& g, int col, int row) {
+bool IsCorner(const Position& g, int col, int row) {
     return (col == 1 || col == g.BoardWidth) && (row == 1 || row == g.BoardHeight);
 }
 
-bool KingAtHome(const Game& g) {
+bool KingAtHome(const Position& g) {
     return IsCorner(g, g.KingCol, g.KingRow);
 }
 

@@ -13,16 +13,16 @@ namespace jv {
 void NewBoard(Game& g, int width, int height);
 
 // Writes code into the four Home corners and nowhere else.
-void SetHomeSquares(Game& g, int code);
+void SetHomeSquares(Position& g, int code);
 
 // True when the King stands on one of the four corners.
-bool KingAtHome(const Game& g);
+bool KingAtHome(const Position& g);
 
 // True when the King stands on (col, row).
-bool IsKingOn(const Game& g, int col, int row);
+bool IsKingOn(const Position& g, int col, int row);
 
 // True for the four corner squares of the board in play.
-bool IsCorner(const Game& g, int col, int row);
+bool IsCorner(const Position& g, int col, int row);
 
 // Fills ColumnLetters 1..16 with "A".."P".
 void BuildColumnLetters(Game& g);

@@ -55,9 +55,9 @@ bool VictimStillTaken(Game& g, int col, int row, int mover, int victimCol, int v
            r == victimRow && !IsKingOn(g, c, r);
 }
 
-bool IsAttacker(const Game& g, int col, int row) { return g.Board(col, row) == AttackerCode; }
+bool IsAttacker(const Position& g, int col, int row) { return g.Board(col, row) == AttackerCode; }
 
-bool KingSurrounded(const Game& g) {
+bool KingSurrounded(const Position& g) {
     const int c = g.KingCol, r = g.KingRow;
     const bool up = IsAttacker(g, c - 1, r), down = IsAttacker(g, c + 1, r);
     const bool left = IsAttacker(g, c, r - 1), right = IsAttacker(g, c, r + 1);
@@ -135,7 +135,7 @@ void CaptureAround(Game& g, int col, int row) {
     }
 }
 
-bool CheckKingCapture(Game& g) {
+bool CheckKingCapture(Position& g) {
     // A King that is not on the board (the editor can leave him off it)
     // cannot be surrounded; his neighbours would also lie outside the grid.
     if (g.KingCol < 1 || g.KingCol > g.BoardWidth || g.KingRow < 1 || g.KingRow > g.BoardHeight) return false;

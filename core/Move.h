@@ -16,7 +16,7 @@ void CaptureAround(Game& g, int col, int row);
 
 // True when the King is taken: by four attackers, or by three against the
 // edge, a Home corner beside him counting as an attacker.
-bool CheckKingCapture(Game& g);
+bool CheckKingCapture(Position& g);
 
 // A move's pauses let pending events run, so the user's clicks arrive in the
 // middle of it. What is left of the move belongs to the game it began in:

@@ -26,7 +26,7 @@ struct FlatMove {
 // game's KingCol and KingRow are left alone.
 class Search {
 public:
-    explicit Search(Game& g)
+    explicit Search(Position& g)
         : cells_(&g.Board(Cells::Low, Cells::Low)), width_(g.BoardWidth), height_(g.BoardHeight),
           centre_(Cells::Index(g.CentreCol, g.CentreRow)) {
         const bool kingInPlay = g.KingCol >= 1 && g.KingCol <= width_ && g.KingRow >= 1 && g.KingRow <= height_;
@@ -166,14 +166,14 @@ private:
 
 }  // namespace
 
-std::uint64_t Perft(Game& g, int depth, int side) {
+std::uint64_t Perft(Position& g, int depth, int side) {
     if (depth < 0) return 0;
     Search search(g);
     if (depth > 0 && search.KingHome()) return 0;
     return search.Count(depth, side);
 }
 
-std::vector<PerftLine> PerftDivide(Game& g, int depth, int side) {
+std::vector<PerftLine> PerftDivide(Position& g, int depth, int side) {
     std::vector<PerftLine> lines;
     Search search(g);
     if (depth <= 0 || search.KingHome()) return lines;

@@ -26,11 +26,11 @@ struct PerftLine {
 };
 
 // side: DefenderCode or AttackerCode, the side that moves first.
-std::uint64_t Perft(Game& g, int depth, int side);
+std::uint64_t Perft(Position& g, int depth, int side);
 
 // The count split by the first move, one line per move of the side to move,
 // in the order the moves are found (squares column by column, directions up,
 // down, left, right, nearest square first). Empty for depth 0.
-std::vector<PerftLine> PerftDivide(Game& g, int depth, int side);
+std::vector<PerftLine> PerftDivide(Position& g, int depth, int side);
 
 }  // namespace jv
