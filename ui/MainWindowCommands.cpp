@@ -93,7 +93,8 @@ std::string KingCaptureDiagnostic(Game& g) {
     // Compx: the capture rule's answer now (99 taken); UserX: the King at
     // Home (99); then the attackers, defenders and empty squares beside him.
     const KingNeighbours around = KingNeighbourCounts(g);
-    return "Compx=" + Str(jv::CheckKingCapture(g)) + "\r\nUserX=" + Str(KingAtHome(g)) + "\r\n" +
+    const auto yes99 = [](bool yes) { return Str(yes ? 99 : 0); };
+    return "Compx=" + yes99(jv::CheckKingCapture(g)) + "\r\nUserX=" + yes99(KingAtHome(g)) + "\r\n" +
            Str(around.Attackers) + Str(around.Defenders) + Str(around.Empties);
 }
 
