@@ -25,10 +25,11 @@ bool ApplyLayoutLine(Game& g, const std::string& line) {
     return false;
 }
 
+bool ReadLayoutText(Game& g, std::string_view text) { return ApplyLayoutLine(g, FirstLine(text)); }
+
 bool ReadLayoutFile(Game& g, const std::string& path) {
-    std::string line;
-    if (!ReadFirstLine(path, line)) return true;
-    return ApplyLayoutLine(g, line);
+    std::string text;
+    return !ReadWholeFile(path, text) || ReadLayoutText(g, text);
 }
 
 }  // namespace jv
