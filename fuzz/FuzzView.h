@@ -1,6 +1,6 @@
 #pragma once
 // A view that keeps next to nothing, for driving the readers on thousands of
-// inputs a second, and a scratch program folder for the files they read.
+// inputs a second, and a scratch program folder for the files they look for.
 // Header only: the fuzzing harnesses and the engine test that replays their
 // findings both include it.
 
@@ -9,7 +9,6 @@
 #include <deque>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -73,12 +72,6 @@ inline std::string WriteScratchFile(const std::string& name, std::string_view co
     std::ofstream(path, std::ios::binary | std::ios::trunc).write(content.data(),
                                                                   static_cast<std::streamsize>(content.size()));
     return path;
-}
-
-// The whole content of a file ("" when it cannot be read).
-inline std::string ReadWholeFile(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
 }
 
 }  // namespace jv::fuzz

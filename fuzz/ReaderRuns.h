@@ -1,6 +1,9 @@
 #pragma once
 // Each reader of outside data driven on one input the way the program drives
 // it, followed by the checks of what that reader promises (docs/readers.md).
+// The readers are handed the input as text, without a file, and work on games
+// reset between inputs, so that a run costs what the reader costs (the file
+// layer around them is the same for all and has tests of its own).
 // A run answers "" when all is well, else what went wrong. The fuzzing
 // harnesses abort on an answer; the engine test that replays the kept inputs
 // (tests/data/fuzz/<reader>/ and the seed corpora) expects "" for each.
@@ -15,6 +18,7 @@
 #include <limits>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "core/Board.h"
@@ -24,7 +28,6 @@
 #include "records/ColourScheme.h"
 #include "records/Configuration.h"
 #include "records/LayoutFile.h"
-#include "session/LayoutCommands.h"
 #include "session/Recording.h"
 #include "records/PositionRecord.h"
 #include "records/TextFile.h"
@@ -45,22 +48,39 @@ struct ScratchGame {
     }
     ScratchGame(const ScratchGame&) = delete;
     ScratchGame& operator=(const ScratchGame&) = delete;
+
+    // Puts the game and its view back as the model has them: every field is
+    // copied, so nothing a run leaves behind reaches the next run's checks.
+    void ResetTo(const ScratchGame& model) {
+        g = model.g;
+        view = model.view;
+        g.View = &view;
+    }
 };
 
-// The lines of a text as the program reads a file: split at LF, one CR
-// before it dropped, no line after a final LF.
-inline std::vector<std::string> SplitLines(std::string_view text) {
-    std::vector<std::string> lines;
-    std::size_t start = 0;
-    while (start < text.size()) {
-        std::size_t end = text.find('\n', start);
-        if (end == std::string_view::npos) end = text.size();
-        std::string line(text.substr(start, end - start));
-        if (!line.empty() && line.back() == '\r') line.pop_back();
-        lines.push_back(line);
-        start = end + 1;
-    }
-    return lines;
+// The models the games of the runs are reset to: a new game, and one with
+// the start layout loaded.
+inline const ScratchGame& NewGame() {
+    static const ScratchGame model;
+    return model;
+}
+inline const ScratchGame& StartedGame() {
+    struct Started : ScratchGame {
+        Started() { ApplyLayoutLine(g, std::string(StartLayout)); }
+    };
+    static const Started model;
+    return model;
+}
+
+// The games of one process: a run works on the first, a check that needs a
+// game of its own on the second. Each comes back reset to the model, which
+// costs a small part of building a game and loading a layout afresh.
+inline constexpr std::size_t RunSlot = 0, CheckSlot = 1;
+inline ScratchGame& CleanGame(std::size_t slot, const ScratchGame& model = NewGame()) {
+    static std::array<ScratchGame, 2> games;
+    ScratchGame& s = games.at(slot);
+    s.ResetTo(model);
+    return s;
 }
 
 // Characters from..from+count of a text, as much of them as there is.
@@ -96,7 +116,7 @@ inline std::string PositionProblem(const Game& g) {
             if (!frame && code != HomeCode && code != EmptyCode && code != DefenderCode && code != AttackerCode)
                 return "a square holds an unknown code";
         }
-    ScratchGame copy;
+    ScratchGame& copy = CleanGame(CheckSlot);
     const std::string line = LayoutLine(g);
     if (ApplyLayoutLine(copy.g, line)) return "its own layout line is refused";
     if (LayoutLine(copy.g) != line) return "its layout line does not read back the same";
@@ -123,18 +143,16 @@ inline std::string RecordProblem(const Game& g, std::string_view record, const G
     return "";
 }
 
-// ReadLayoutFile on a file holding the input, over the start layout.
+// ReadLayoutText on the input as a layout file's text, over the start layout.
 inline std::string RunLayoutFile(std::string_view input) {
-    ScratchGame s;
-    Game& g = s.g;
-    ApplyLayoutLine(g, std::string(StartLayout));
+    Game& g = CleanGame(RunSlot, StartedGame()).g;
     const std::string before = LayoutLine(g);
-    const bool failed = ReadLayoutFile(g, WriteScratchFile("layout.txt", input));
+    const bool failed = ReadLayoutText(g, input);
 
-    const std::vector<std::string> lines = SplitLines(input);
-    const std::string line = lines.empty() ? std::string() : lines.front();
+    const std::string line = FirstLine(input);
     const int w = ValInt(Part(line, 0, 2)), h = ValInt(Part(line, 2, 2));
-    const bool playable = w >= 0 && h >= 0 && w <= MaxBoardSide && h <= MaxBoardSide;
+    // A text without a first line (an empty one) has no layout to read.
+    const bool playable = !line.empty() && w >= 0 && h >= 0 && w <= MaxBoardSide && h <= MaxBoardSide;
     if (failed == playable) return failed ? "a playable layout was refused" : "an unplayable size was taken";
     if (failed) return LayoutLine(g) == before ? "" : "a refused layout changed the board";
 
@@ -154,8 +172,7 @@ inline std::string RunLayoutFile(std::string_view input) {
 // size the first two bytes choose, filled beforehand with pieces of every kind.
 inline std::string RunPositionRecord(std::string_view input) {
     if (input.size() < 2) return "";
-    ScratchGame s;
-    Game& g = s.g;
+    Game& g = CleanGame(RunSlot).g;
     const int w = static_cast<unsigned char>(input[0]) % (MaxBoardSide + 1);
     const int h = static_cast<unsigned char>(input[1]) % (MaxBoardSide + 1);
     const std::string record(input.substr(2));
@@ -174,69 +191,70 @@ inline std::string RunPositionRecord(std::string_view input) {
     return PositionProblem(g);
 }
 
-// The configuration a defaults file holds for a game with the initial
-// ShowLabels, ColourMode and fifth setting (1, 0, 0).
-inline constexpr std::string_view DefaultConfiguration =
-    "xp.col\r\npatf.txt\r\nplayer00.ico\r\nplayer10.ico\r\nhome0.ico\r\nking0.ico\r\n"
-    "32768 128 8421504 0\r\n0 1 1 0 0\r\n";
-
 inline bool SameSettings(const Game& a, const Game& b) {
     return a.SchemeFile == b.SchemeFile && a.LayoutFile == b.LayoutFile && a.PictureFiles == b.PictureFiles &&
            a.PieceColours == b.PieceColours && a.BoardStyle == b.BoardStyle && a.SquareGap == b.SquareGap &&
            a.ShowLabels == b.ShowLabels && a.ColourMode == b.ColourMode && a.ColourTable == b.ColourTable;
 }
 
-// ReadConfiguration of a jarlsvakt.cfg holding the input.
-inline std::string RunConfiguration(std::string_view input) {
-    WriteScratchFile("patf.txt", std::string(StartLayout) + "\r\n");
-    const std::string path = WriteScratchFile("jarlsvakt.cfg", input);
-    ScratchGame s;
-    Game& g = s.g;
-    ReadConfiguration(g, "jarlsvakt.cfg");
-    if (s.view.Shows != 0) return "reading showed a message: " + s.view.LastText;
+// Settings no configuration file gives, each unlike a new game's.
+inline void MarkSettings(Game& g) {
+    g.SchemeFile = g.LayoutFile = "marked";
+    g.PictureFiles.fill("marked");
+    g.PieceColours.fill(-7);
+    g.BoardStyle = g.SquareGap = g.ShowLabels = g.ColourMode = g.ColourTable[13] = -7;
+}
 
-    const std::string after = ReadWholeFile(path);
-    if (after != input && after != DefaultConfiguration) return "the file was rewritten with other than the defaults";
-    if (after == input && after != DefaultConfiguration && SplitLines(input).size() < 8)
-        return "a file of fewer than eight lines was kept";
+// ReadConfigurationText on the input as the text of jarlsvakt.cfg, in a
+// program folder that holds the layout patf.txt and no picture.
+inline std::string RunConfiguration(std::string_view input) {
+    [[maybe_unused]] static const std::string layout =
+        WriteScratchFile("patf.txt", std::string(StartLayout) + "\r\n");
+    ScratchGame& s = CleanGame(RunSlot);
+    Game& g = s.g;
+    const bool taken = ReadConfigurationText(g, input);
+    if (s.view.Shows != 0) return "reading showed a message: " + s.view.LastText;
+    if (!taken) return SameSettings(g, CleanGame(CheckSlot).g) ? "" : "a refused text changed a setting";
+
+    if (SplitLines(input).size() < 8) return "a text of fewer than eight lines was taken";
     if (Trim(g.SchemeFile).empty()) return "the scheme name is blank";
     if (g.LayoutFile != "patf.txt" && !FileExists(InProgramFolder(g, g.LayoutFile)))
         return "the layout names a missing file";
+    for (std::size_t i = 0; i < g.PictureFiles.size(); ++i)
+        if (g.PictureFiles[i] != DefaultPictures[i] && !FileExists(InProgramFolder(g, g.PictureFiles[i])))
+            return "a picture names a missing file";
 
-    // Whatever the first reading left on disk reads back as it stands.
-    ScratchGame again;
-    ReadConfiguration(again.g, "jarlsvakt.cfg");
-    if (ReadWholeFile(path) != after) return "a second reading rewrote the file";
-    if (!SameSettings(g, again.g)) return "a second reading gave other settings";
-    return "";
+    // Taken whole: read over other settings, the text gives the same ones.
+    Game& other = CleanGame(CheckSlot).g;
+    MarkSettings(other);
+    if (!ReadConfigurationText(other, input)) return "a second reading refused the text";
+    return SameSettings(g, other) ? "" : "a setting was kept from before the reading";
 }
 
-// LoadColourScheme and FillSchemeList on an all.col holding the input after
-// its first line; the first line is the scheme asked for. Then every listed
-// name is loaded as the options dialog would load it.
+// LoadColourScheme and FillSchemeList on the lines of an all.col holding the
+// input after its first line; the first line is the scheme asked for. Then
+// every listed name is loaded as the options dialog would load it.
 inline std::string RunColourScheme(std::string_view input) {
     const std::size_t lf = input.find('\n');
-    std::string name(input.substr(0, lf));
-    if (!name.empty() && name.back() == '\r') name.pop_back();
-    const std::string_view file = lf == std::string_view::npos ? std::string_view() : input.substr(lf + 1);
-    WriteScratchFile("all.col", file);
-    const std::vector<std::string> lines = SplitLines(file);
+    const std::string name = FirstLine(input);
+    const std::vector<std::string> lines =
+        SplitLines(lf == std::string_view::npos ? std::string_view() : input.substr(lf + 1));
 
-    ScratchGame s;
+    ScratchGame& s = CleanGame(RunSlot);
     Game& g = s.g;
     // A mark no scheme can give (colours have a clear top byte).
     for (std::size_t i = 0; i < g.ColourTable.size(); ++i) g.ColourTable[i] = 0x7F000000 + static_cast<int>(i);
     const auto marked = g.ColourTable;
     g.SchemeFile = "before.col";
 
-    const std::vector<std::string> names = FillSchemeList(g);
+    const std::vector<std::string> names = FillSchemeList(lines);
     const auto headers = std::count_if(lines.begin(), lines.end(),
                                        [](const std::string& l) { return l.find(".col") != std::string::npos; });
     if (static_cast<std::ptrdiff_t>(names.size()) != headers) return "the list does not have one name per header";
     for (const std::string& n : names)
         if (n.find(".col") != std::string::npos) return "a listed name holds .col";
 
-    const bool found = LoadColourScheme(g, name);
+    const bool found = LoadColourScheme(g, lines, name);
     const auto header = std::find(lines.begin(), lines.end(), name);
     if (found != (header != lines.end())) return "the scheme was found where it is not, or missed";
     if (!found) {
@@ -253,7 +271,7 @@ inline std::string RunColourScheme(std::string_view input) {
     if (s.view.Shows != 0) return "a found scheme showed a message";
     if (g.SchemeFile != "before.col") return "a found scheme changed the scheme name";
 
-    for (std::size_t i = 0; i < names.size() && i < 16; ++i) LoadColourScheme(g, names[i] + ".col");
+    for (std::size_t i = 0; i < names.size() && i < 16; ++i) LoadColourScheme(g, lines, names[i] + ".col");
     return "";
 }
 
@@ -265,41 +283,72 @@ inline std::deque<int> ScriptedAnswers(std::string_view script) {
     return answers;
 }
 
-// ReplayCommand on a moves log holding the input after its first line; the
-// first line scripts the answers to the step questions (then No to all).
+// How many steps of n the answers let the replay ask about (Yes and Cancel
+// end the steps, and so does the last line), and whether it stops on one.
+inline std::pair<std::size_t, bool> StepsAsked(const std::deque<int>& answers, int then, std::size_t n) {
+    for (std::size_t k = 0; k < n; ++k) {
+        const int answer = k < answers.size() ? answers[k] : then;
+        if (answer == 6 || answer == 2) return {k + 1, answer == 6};
+    }
+    return {n, false};
+}
+
+// Checks each step of a replay when it is asked about: the question, and the
+// board against the step's line applied over the board before it.
+class StepChecker : public QuietView {
+public:
+    StepChecker(const Game& g, const std::vector<std::string>& lines) : g_(g), lines_(lines), before_(g.Board) {}
+    std::string Problem;
+
+    int Show(const std::string& text, const std::string& style) override {
+        if (Problem.empty()) Problem = StepProblem(static_cast<std::size_t>(Shows), text, style);
+        before_ = g_.Board;
+        return QuietView::Show(text, style);
+    }
+
+private:
+    std::string StepProblem(std::size_t k, const std::string& text, const std::string& style) const {
+        if (k >= lines_.size()) return "a step past the log's last line";
+        const std::string n = std::to_string(lines_.size());
+        if (text != "Step " + std::to_string(k + 1) + " of " + n + "\r\nStop ?" || style != "vbquestion+vbYesNoCancel")
+            return "step " + std::to_string(k + 1) + " was asked as: " + text;
+        return RecordProblem(g_, Part(lines_[k], 4, std::string_view::npos), before_);
+    }
+    const Game& g_;
+    const std::vector<std::string>& lines_;
+    Grid<std::int32_t> before_;
+};
+
+// At most this many steps are answered from the script; the next is answered
+// Cancel. Every step runs the same code, so a longer replay only repeats it:
+// the cap keeps the runs on what the lines hold rather than on hundreds of
+// steps through the same empty line.
+inline constexpr std::size_t MaxScriptedAnswers = 16;
+
+// The replay of a moves log holding the input after its first line, on a game
+// in progress: the log's text read as a layout, then its steps, the first
+// line scripting the answers to the step questions.
 inline std::string RunMovesLog(std::string_view input) {
     const std::size_t lf = input.find('\n');
     const std::string_view script = input.substr(0, lf);
     const std::string_view log = lf == std::string_view::npos ? std::string_view() : input.substr(lf + 1);
-    WriteScratchFile("patf.txt", std::string(StartLayout) + "\r\n");
-    WriteScratchFile("fuzzlog.txt", log);
+    const std::vector<std::string> lines = SplitLines(log);
 
-    ScratchGame s;
-    Game& g = s.g;
-    LoadLayout(g, "patf.txt");
-    g.Board(2, 2) = AttackerCode;   // a game in progress, not the layout file
-    const std::string before = LayoutLine(g);
-    s.view.Shows = 0;
-    s.view.Answers = ScriptedAnswers(script);
-    s.view.DefaultAnswer = 7;
-    s.view.FileChoice = "fuzzlog.txt";
+    Game& g = CleanGame(RunSlot, StartedGame()).g;
+    g.Board(2, 2) = AttackerCode;   // a game in progress: a refused layout line leaves it on the board
+    ReadLayoutText(g, log);
+    StepChecker view(g, lines);
+    view.Answers = ScriptedAnswers(script.substr(0, MaxScriptedAnswers));
+    view.DefaultAnswer = 2;
+    const auto [asked, stops] = StepsAsked(view.Answers, view.DefaultAnswer, lines.size());
+    g.View = &view;
+    const bool stopped = StepThroughLog(g, lines);
+    g.View = nullptr;   // the view ends with this run
 
-    ReplayCommand(g);
-
-    const std::string problem = PositionProblem(g);
-    if (!problem.empty()) return problem;
-    if (!g.Undo.empty()) return "the undo history is not empty after a replay";
-    const std::size_t n = SplitLines(log).size();
-    if (n == 0) {
-        if (s.view.LastText != "No layouts in the Moves Log File:\r\nfuzzlog.txtvbcritical+vbok")
-            return "an empty log was not reported";
-        return LayoutLine(g) == before && g.LayoutFile == "patf.txt" ? "" : "an empty log changed the game";
-    }
-    if (s.view.Shows < 1 || static_cast<std::size_t>(s.view.Shows) > n + 1) return "wrong number of questions";
-    const bool stopped = s.view.LastStyle == "vbquestion+vbYesNoCancel" && s.view.LastAnswer == 6;
-    if (stopped) return g.LayoutFile == "fuzzlog.txt" || g.LayoutFile == "patf.txt" ? "" : "stopped on a stranger";
-    if (g.LayoutFile != g.ProgramFolder + "templayout.txt") return "the replay did not end on templayout.txt";
-    return LayoutLine(g) == before ? "" : "the game before the replay did not come back";
+    if (!view.Problem.empty()) return view.Problem;
+    if (static_cast<std::size_t>(view.Shows) != asked || stopped != stops)
+        return "the steps did not end where the answers say";
+    return PositionProblem(g);
 }
 
 // Val and ValInt: never NaN, blanks in front and a non-digit behind change

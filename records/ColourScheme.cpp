@@ -14,7 +14,13 @@ struct Rgb {
     long long Red = 0, Green = 0, Blue = 0;
 };
 
-std::string ColourFile(const Game& g) { return g.ProgramFolder + "all.col"; }
+// The lines of "all.col"; none when it cannot be read, which lists no scheme
+// and finds none.
+std::vector<std::string> ColourFileLines(const Game& g) {
+    std::vector<std::string> lines;
+    ReadLines(g.ProgramFolder + "all.col", lines);
+    return lines;
+}
 
 // red;green;blue, each part read as Val (a missing part is 0).
 Rgb ParseColourLine(const std::string& line) {
@@ -52,9 +58,8 @@ std::int32_t Rgb32(const Rgb& c) {
 
 }  // namespace
 
-std::vector<std::string> FillSchemeList(const Game& g) {
-    std::vector<std::string> lines, names;
-    if (!ReadLines(ColourFile(g), lines)) return names;
+std::vector<std::string> FillSchemeList(const std::vector<std::string>& lines) {
+    std::vector<std::string> names;
     for (const std::string& line : lines) {
         const std::size_t found = line.find(".col");
         if (found != std::string::npos) names.push_back(line.substr(0, found));
@@ -62,11 +67,9 @@ std::vector<std::string> FillSchemeList(const Game& g) {
     return names;
 }
 
-bool LoadColourScheme(Game& g, const std::string& name) {
-    std::vector<std::string> lines;
-    const bool readable = ReadLines(ColourFile(g), lines);
+bool LoadColourScheme(Game& g, const std::vector<std::string>& lines, const std::string& name) {
     const auto header = std::find(lines.begin(), lines.end(), name);
-    if (!readable || header == lines.end()) {
+    if (header == lines.end()) {
         g.View->Show("Colour Scheme: " + name + " not found", "vbok+vbcritical");
         g.SchemeFile = "xp.col";
         return false;
@@ -87,5 +90,9 @@ bool LoadColourScheme(Game& g, const std::string& name) {
     }
     return true;
 }
+
+std::vector<std::string> FillSchemeList(const Game& g) { return FillSchemeList(ColourFileLines(g)); }
+
+bool LoadColourScheme(Game& g, const std::string& name) { return LoadColourScheme(g, ColourFileLines(g), name); }
 
 }  // namespace jv

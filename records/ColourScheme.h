@@ -13,4 +13,8 @@ std::vector<std::string> FillSchemeList(const Game& g);
 // False, with a message, when the scheme is not in the file.
 bool LoadColourScheme(Game& g, const std::string& name);
 
+// The same two on the lines of an "all.col" already in hand.
+std::vector<std::string> FillSchemeList(const std::vector<std::string>& lines);
+bool LoadColourScheme(Game& g, const std::vector<std::string>& lines, const std::string& name);
+
 }  // namespace jv

@@ -107,10 +107,10 @@ bool ReadNumbers(std::string_view line, std::int32_t* out, int count) {
 }
 
 // Reads the eight lines; a missing file named on line 2 to 6 falls back to
-// its default name. False when the file cannot be read whole.
-bool ReadSettings(const Game& g, const std::string& path, StoredSettings& s) {
-    std::vector<std::string> lines;
-    if (!ReadLines(path, lines) || lines.size() < 8) return false;
+// its default name. False when the text cannot be read whole.
+bool ReadSettings(const Game& g, std::string_view text, StoredSettings& s) {
+    const std::vector<std::string> lines = SplitLines(text);
+    if (lines.size() < 8) return false;
     s.Scheme = ListInput(lines[0]).Text();
     if (Trim(s.Scheme).empty()) s.Scheme = "xp.col";
     s.Layout = ListInput(lines[1]).Text();
@@ -148,13 +148,17 @@ std::string ConfigurationText(const Game& g) {
 
 }  // namespace
 
+bool ReadConfigurationText(Game& g, std::string_view text) {
+    StoredSettings s;
+    if (!ReadSettings(g, text, s)) return false;
+    Apply(g, s);
+    return true;
+}
+
 void ReadConfiguration(Game& g, const std::string& name) {
     const std::string path = InProgramFolder(g, name);
-    StoredSettings s;
-    if (ReadSettings(g, path, s)) {
-        Apply(g, s);
-        return;
-    }
+    std::string text;
+    if (ReadWholeFile(path, text) && ReadConfigurationText(g, text)) return;
     WriteDefaultConfiguration(g, path);
 }
 

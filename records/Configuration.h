@@ -2,6 +2,7 @@
 #include <array>
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "core/Game.h"
 
@@ -17,6 +18,9 @@ inline constexpr std::array<std::int32_t, 4> DefaultPieceColours{32768, 128, 842
 // Reads the configuration file into the game's settings; a file that cannot
 // be read whole is rewritten with the defaults.
 void ReadConfiguration(Game& g, const std::string& name);
+// Takes the settings of a configuration file's text, all of them or, when it
+// cannot be read whole, none (then it returns false).
+bool ReadConfigurationText(Game& g, std::string_view text);
 void WriteDefaultConfiguration(Game& g, const std::string& name);
 // Writes the current settings; on failure shows the message and returns false.
 bool WriteConfiguration(Game& g, const std::string& name);

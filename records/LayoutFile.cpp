@@ -25,11 +25,15 @@ bool ApplyLayoutLine(Game& g, const std::string& line) {
     return false;
 }
 
+bool ReadLayoutText(Game& g, std::string_view text) {
+    // An empty text has no first line to read: it fails like a missing file.
+    const std::string line = FirstLine(text);
+    return line.empty() || ApplyLayoutLine(g, line);
+}
+
 bool ReadLayoutFile(Game& g, const std::string& path) {
-    std::string line;
-    // An empty file has no first line to read: it fails like a missing one.
-    if (!ReadFirstLine(path, line) || line.empty()) return true;
-    return ApplyLayoutLine(g, line);
+    std::string text;
+    return !ReadWholeFile(path, text) || ReadLayoutText(g, text);
 }
 
 }  // namespace jv

@@ -1,5 +1,6 @@
 #pragma once
 #include <string>
+#include <string_view>
 
 #include "core/Game.h"
 
@@ -13,6 +14,9 @@ bool WriteLayoutFile(const Game& g, const std::string& path);
 // SquareWeight to 10. Returns true when it failed: the file cannot be read,
 // or its board is wider or higher than 14.
 bool ReadLayoutFile(Game& g, const std::string& path);
+
+// The same for the whole text of a layout file already in hand.
+bool ReadLayoutText(Game& g, std::string_view text);
 
 // The same for a layout line already in hand.
 bool ApplyLayoutLine(Game& g, const std::string& line);

@@ -1,9 +1,10 @@
 #include "records/TextFile.h"
 
 #include <cstdio>
-#include <fstream>
-#include <system_error>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <system_error>
 
 namespace jv {
 
@@ -23,37 +24,56 @@ std::string WithExtension(const std::string& name, const std::string& extension)
 }
 
 namespace {
-void DropCarriageReturn(std::string& line) {
-    if (!line.empty() && line.back() == '\r') line.pop_back();
-}
 bool IsRegularFile(const std::string& path) {
     std::error_code ec;
     return std::filesystem::is_regular_file(path, ec);
 }
+// A line as read: a CR at its end belongs to the line end.
+std::string LineOf(std::string_view text) {
+    if (!text.empty() && text.back() == '\r') text.remove_suffix(1);
+    return std::string(text);
+}
 }  // namespace
 
-bool ReadFirstLine(const std::string& path, std::string& line) {
+bool ReadWholeFile(const std::string& path, std::string& text) {
+    // A folder opens as a stream on some systems; only a file is read.
     if (!IsRegularFile(path)) return false;
     std::ifstream in(path, std::ios::binary);
     if (!in) return false;
-    line.clear();
-    std::getline(in, line);
+    std::string content{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
     if (in.bad()) return false;
-    DropCarriageReturn(line);
+    text = std::move(content);
+    return true;
+}
+
+std::vector<std::string> SplitLines(std::string_view text) {
+    std::vector<std::string> lines;
+    std::size_t start = 0;
+    while (start < text.size()) {
+        const std::size_t lf = text.find('\n', start);
+        const std::size_t end = lf == std::string_view::npos ? text.size() : lf;
+        lines.push_back(LineOf(text.substr(start, end - start)));
+        start = end + 1;
+    }
+    return lines;
+}
+
+std::string FirstLine(std::string_view text) {
+    return LineOf(text.substr(0, text.find('\n')));
+}
+
+bool ReadFirstLine(const std::string& path, std::string& line) {
+    std::string text;
+    if (!ReadWholeFile(path, text)) return false;
+    line = FirstLine(text);
     return true;
 }
 
 bool ReadLines(const std::string& path, std::vector<std::string>& lines) {
-    if (!IsRegularFile(path)) return false;
-    std::ifstream in(path, std::ios::binary);
-    if (!in) return false;
-    lines.clear();
-    std::string line;
-    while (std::getline(in, line)) {
-        DropCarriageReturn(line);
-        lines.push_back(line);
-    }
-    return !in.bad();
+    std::string text;
+    if (!ReadWholeFile(path, text)) return false;
+    lines = SplitLines(text);
+    return true;
 }
 
 bool WriteFileAtomically(const std::string& path, const std::string& content) {

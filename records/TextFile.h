@@ -1,5 +1,6 @@
 #pragma once
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "core/Game.h"
@@ -17,12 +18,24 @@ std::string InProgramFolder(const Game& g, const std::string& name);
 // file name (the part after the last folder separator) holds no point.
 std::string WithExtension(const std::string& name, const std::string& extension);
 
+// Reads a whole file as bytes. False, leaving the text as it was, when it is
+// not a file or cannot be read.
+bool ReadWholeFile(const std::string& path, std::string& text);
+
+// The lines of a text as every reader takes them: each ends at LF and loses
+// one CR before it (a CR elsewhere stays); the text after a final LF is a
+// line only when it is not empty.
+std::vector<std::string> SplitLines(std::string_view text);
+
+// The first of those lines ("" for an empty text).
+std::string FirstLine(std::string_view text);
+
 // Reads the first line of a file (without its line end). False when the file
 // cannot be opened or read.
 bool ReadFirstLine(const std::string& path, std::string& line);
 
-// Reads every line of a file (CR LF or LF alone). False when the file cannot
-// be opened or read.
+// Reads every line of a file. False, leaving the lines as they were, when the
+// file cannot be opened or read.
 bool ReadLines(const std::string& path, std::vector<std::string>& lines);
 
 // Replaces a file's content through a temporary file and a rename, so the

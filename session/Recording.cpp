@@ -24,8 +24,8 @@ ClockReading SystemClock() {
     return ClockReading{local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min};
 }
 
-// Steps through the logged positions at the board size of the first line,
-// asking after each one. True when the player stopped on a position.
+}  // namespace
+
 bool StepThroughLog(Game& g, const std::vector<std::string>& lines) {
     const long long n = static_cast<long long>(lines.size());
     for (long long k = 1; k <= n; ++k) {
@@ -37,8 +37,6 @@ bool StepThroughLog(Game& g, const std::vector<std::string>& lines) {
     }
     return false;
 }
-
-}  // namespace
 
 std::string MovesLogFileName(const ClockReading& now) {
     return "moveslogfile" + Format(now.Month, "00") + Format(now.Day, "00") + Format(now.Hour, "00") +

@@ -1,5 +1,6 @@
 #pragma once
 #include <string>
+#include <vector>
 
 #include "core/Game.h"
 
@@ -13,5 +14,11 @@ void RecordingSwitch(Game& g, bool ticked);
 
 // The replay command (cmdloadlog).
 void ReplayCommand(Game& g);
+
+// The replay's steps through the lines of a log already in hand, at the board
+// size in force: each line from its fifth character is applied as a position
+// record and the player asked whether to stop there. True when the player
+// stopped on a position.
+bool StepThroughLog(Game& g, const std::vector<std::string>& lines);
 
 }  // namespace jv
