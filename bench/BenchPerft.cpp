@@ -17,7 +17,7 @@ bool BenchPerft() {
     Game g;
     g.View = &view;
     BuildColumnLetters(g);
-    if (ReadLayoutFile(g, path)) {
+    if (!ReadLayoutFile(g, path).Ok()) {
         std::printf("cannot read %s\n", path.c_str());
         return false;
     }

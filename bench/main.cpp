@@ -17,7 +17,7 @@ int main() {
         Game g;
         g.View = &view;
         BuildColumnLetters(g);
-        if (ReadLayoutFile(g, p.Path)) {
+        if (!ReadLayoutFile(g, p.Path).Ok()) {
             std::printf("cannot read %s\n", p.Path.c_str());
             return 2;
         }

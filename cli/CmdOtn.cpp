@@ -23,7 +23,7 @@ int RunFromOtn(const Args& args) {
     }
     CommandGame game;
     Game& g = game.g;
-    if (ApplyLayoutLine(g, line) || !WriteLayoutFile(g, args[1])) {
+    if (!ApplyLayoutLine(g, line).Ok() || !WriteLayoutFile(g, args[1])) {
         std::cerr << "Layout File:\n" << args[1] << "\ncould not be written\n";
         return 2;
     }

@@ -13,7 +13,7 @@ namespace jv::cli {
 // replay in the program shows them.
 int RunReplay(const Args& args) {
     return RunOnMovesLogArgument(args, "replay LOGFILE", [&](Game& g, const std::vector<std::string>& lines) {
-        if (ApplyLayoutLine(g, lines.front())) {
+        if (!ApplyLayoutLine(g, lines.front()).Ok()) {
             std::cerr << "Error reading Layout File:\n" << args[0] << '\n';
             return 2;
         }

@@ -56,9 +56,9 @@ bool ReadLayoutArgument(Game& g, const std::string& name) {
         std::string line;
         failed = !std::getline(std::cin, line);
         if (!line.empty() && line.back() == '\r') line.pop_back();
-        if (!failed) failed = ApplyLayoutLine(g, line);
+        if (!failed) failed = !ApplyLayoutLine(g, line).Ok();
     } else {
-        failed = ReadLayoutFile(g, ResolveArgument(g, name));
+        failed = !ReadLayoutFile(g, ResolveArgument(g, name)).Ok();
     }
     if (failed) std::cerr << "Error reading Layout File:\n" << name << '\n';
     return !failed;

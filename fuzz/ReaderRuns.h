@@ -66,7 +66,7 @@ inline const ScratchGame& NewGame() {
 }
 inline const ScratchGame& StartedGame() {
     struct Started : ScratchGame {
-        Started() { ApplyLayoutLine(g, std::string(StartLayout)); }
+        Started() { (void)ApplyLayoutLine(g, std::string(StartLayout)); }
     };
     static const Started model;
     return model;
@@ -118,7 +118,7 @@ inline std::string PositionProblem(const Game& g) {
         }
     ScratchGame& copy = CleanGame(CheckSlot);
     const std::string line = LayoutLine(g);
-    if (ApplyLayoutLine(copy.g, line)) return "its own layout line is refused";
+    if (!ApplyLayoutLine(copy.g, line).Ok()) return "its own layout line is refused";
     if (LayoutLine(copy.g) != line) return "its layout line does not read back the same";
     return "";
 }
@@ -147,7 +147,7 @@ inline std::string RecordProblem(const Game& g, std::string_view record, const G
 inline std::string RunLayoutFile(std::string_view input) {
     Game& g = CleanGame(RunSlot, StartedGame()).g;
     const std::string before = LayoutLine(g);
-    const bool failed = ReadLayoutText(g, input);
+    const bool failed = !ReadLayoutText(g, input).Ok();
 
     const std::string line = FirstLine(input);
     const int w = ValInt(Part(line, 0, 2)), h = ValInt(Part(line, 2, 2));
@@ -336,7 +336,7 @@ inline std::string RunMovesLog(std::string_view input) {
 
     Game& g = CleanGame(RunSlot, StartedGame()).g;
     g.Board(2, 2) = AttackerCode;   // a game in progress: a refused layout line leaves it on the board
-    ReadLayoutText(g, log);
+    (void)ReadLayoutText(g, log);
     StepChecker view(g, lines);
     view.Answers = ScriptedAnswers(script.substr(0, MaxScriptedAnswers));
     view.DefaultAnswer = 2;

@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "core/Game.h"
+#include "records/ReadResult.h"
 
 namespace jv {
 
@@ -11,14 +12,14 @@ namespace jv {
 bool WriteLayoutFile(const Game& g, const std::string& path);
 
 // Reads the first line of a layout file onto a fresh board and sets every
-// SquareWeight to 10. Returns true when it failed: the file cannot be read,
-// or its board is wider or higher than 14.
-bool ReadLayoutFile(Game& g, const std::string& path);
+// SquareWeight to 10. Refused, the game left as it was: the file cannot be
+// read, it has no first line, or its board is wider or higher than 14.
+ReadResult ReadLayoutFile(Game& g, const std::string& path);
 
 // The same for the whole text of a layout file already in hand.
-bool ReadLayoutText(Game& g, std::string_view text);
+ReadResult ReadLayoutText(Game& g, std::string_view text);
 
 // The same for a layout line already in hand.
-bool ApplyLayoutLine(Game& g, const std::string& line);
+ReadResult ApplyLayoutLine(Game& g, const std::string& line);
 
 }  // namespace jv

@@ -108,7 +108,7 @@ void ReportUnreadableLayout(Game& g, const std::string& path, const std::string&
 bool LoadLayout(Game& g, const std::string& path) {
     LoadDepth depth(g);
     const std::string previous = g.LayoutFile;
-    if (ReadLayoutFile(g, InProgramFolder(g, path))) {
+    if (!ReadLayoutFile(g, InProgramFolder(g, path)).Ok()) {
         ReportUnreadableLayout(g, path, previous);
         return false;
     }

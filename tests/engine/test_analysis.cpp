@@ -18,7 +18,7 @@ TEST(Analysis, ChancesNameTheEmptySquareThatCompletesASandwich) {
     };
     for (const Row& r : rows) {
         TestGame t;
-        ASSERT_FALSE(ApplyLayoutLine(t.g, r.layout));
+        ASSERT_TRUE(ApplyLayoutLine(t.g, r.layout).Ok());
         EXPECT_EQ(t.g.CaptureChances[0], r.attackers) << r.layout;
         EXPECT_EQ(t.g.CaptureChances[1], r.defenders) << r.layout;
         EXPECT_EQ(t.g.KingCaptureSquares, r.king) << r.layout;

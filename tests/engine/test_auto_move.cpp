@@ -19,8 +19,8 @@ using jv::test::TestGame;
 using Lines = std::vector<std::string>;
 
 namespace {
-// Sets up a layout line, or the shipped layout file of that name; true when it failed.
-bool LoadPosition(Game& g, const std::string& layout) {
+// Sets up a layout line, or the shipped layout file of that name.
+ReadResult LoadPosition(Game& g, const std::string& layout) {
     return layout.ends_with(".txt") ? ReadLayoutFile(g, jv::test::DataPath(layout)) : ApplyLayoutLine(g, layout);
 }
 }  // namespace
@@ -55,7 +55,7 @@ TEST(AutoMove, TheBestListedMoveIsPlayedOrTheSideIsToldItHasNone) {
     };
     for (const auto& r : rows) {
         TestGame t;
-        ASSERT_FALSE(LoadPosition(t.g, r.layout));
+        ASSERT_TRUE(LoadPosition(t.g, r.layout).Ok());
         const std::string before = EncodePosition(t.g);
         r.move(t.g);
         EXPECT_EQ(t.g.Undo.size(), *r.played ? 1u : 0u) << r.layout;
@@ -70,7 +70,7 @@ TEST(RandomMover, PlaysTheSmallestDrawnLineOnTheBoardAsItStands) {
     // The random mover plays a move of the board as it stands, one record per move it makes.
     TestGame t;
     Game& g = t.g;
-    ASSERT_FALSE(ApplyLayoutLine(g, "05050504HE0EHEE10EEE0EEEEEEEHEE0H"));
+    ASSERT_TRUE(ApplyLayoutLine(g, "05050504HE0EHEE10EEE0EEEEEEEHEE0H").Ok());
     g.Board(2, 2) = DefenderCode;   // the attacker's lists still show (2,2) and (2,1) free
     const std::string before = EncodePosition(g);
     RandomMover(g, AttackerCode);
@@ -96,7 +96,7 @@ TEST(PlayAutoGame, EndsOnAFreeRunANoMoveOrTheMoveLimit) {
     };
     for (const auto& r : rows) {
         TestGame t;
-        ASSERT_FALSE(LoadPosition(t.g, r.layout));
+        ASSERT_TRUE(LoadPosition(t.g, r.layout).Ok());
         const AutoGameResult result = PlayAutoGame(t.g, r.limit);
         EXPECT_EQ(result.End, r.end) << r.layout;
         EXPECT_EQ(result.Moves, r.moves) << r.layout;

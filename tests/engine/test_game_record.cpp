@@ -47,7 +47,7 @@ TEST(GameRecord, TheMovesOfALoggedGameAreWrittenDefendersFirstWithTheirCaptures)
     };
     for (const auto& r : rows) {
         TestGame t;
-        ASSERT_FALSE(ApplyLayoutLine(t.g, r.layout));
+        ASSERT_TRUE(ApplyLayoutLine(t.g, r.layout).Ok());
         t.g.Check1 = false;
         t.g.MovesLogFile = "log.txt";
         std::istringstream moves(r.moves);

@@ -173,8 +173,8 @@ TEST(ImpatientUser, AnUndoDuringACaptureTakesOnlyPiecesStillSandwiched) {
     LoadCaptures(s);
     Game earlier;
     earlier.View = &s.view;
-    ASSERT_FALSE(ApplyLayoutLine(earlier, "11110803" "HEEEEEEEEEH" "EEEE0EEEEEE" "EEEE1EEEEEE" "EEEEEEEE0EE" "EEEEEEEEEEE"
-                                          "EEEEEEEEEEE" "EE1EEEEEEEE" "EE0EEEEEEEE" "EEEEE1EEEEE" "EEEEEEEEEEE" "HEEEEEEEEEH"));
+    ASSERT_TRUE(ApplyLayoutLine(earlier, "11110803" "HEEEEEEEEEH" "EEEE0EEEEEE" "EEEE1EEEEEE" "EEEEEEEE0EE" "EEEEEEEEEEE"
+                                          "EEEEEEEEEEE" "EE1EEEEEEEE" "EE0EEEEEEEE" "EEEEE1EEEEE" "EEEEEEEEEEE" "HEEEEEEEEEH").Ok());
     s.g.Undo = {EncodePosition(earlier)};
     s.view.At[2] = [&] { Undo_MouseUp(s.g, 1); };   // 1: the animation, 2: the capture of H3
     MakeAttackerMove(s.g, {{9, 6}, {9, 3}});

@@ -34,10 +34,10 @@ TEST(LayoutFile, TheFirstLineIsReadOntoAFreshBoardOrTheFileIsRefused) {
     };
     for (const auto& r : rows) {
         TestGame t;
-        ASSERT_FALSE(ApplyLayoutLine(t.g, Small));
+        ASSERT_TRUE(ApplyLayoutLine(t.g, Small).Ok());
         if (!r.content.empty()) t.WriteFile("layout.txt", r.content);
         const std::string path = std::string(r.why) == "a folder" ? t.folder.string() : t.Path("layout.txt");
-        EXPECT_EQ(ReadLayoutFile(t.g, path), r.fails) << r.why;
+        EXPECT_EQ(ReadLayoutFile(t.g, path).Ok(), !r.fails) << r.why;
         EXPECT_EQ(LayoutLine(t.g), r.after) << r.why;
     }
 }
@@ -47,12 +47,12 @@ TEST(LayoutFile, EveryShippedLayoutWritesBackByteForByteAndAFailedWriteKeepsTheO
     for (const char* name : {"patf.txt", "pattern1.txt", "pattern2.txt", "pattern3.txt", "pattern4.txt", "pattern5.txt"}) {
         TestGame t;
         t.CopyData(name);
-        ASSERT_FALSE(ReadLayoutFile(t.g, t.Path(name))) << name;
+        ASSERT_TRUE(ReadLayoutFile(t.g, t.Path(name)).Ok()) << name;
         ASSERT_TRUE(WriteLayoutFile(t.g, t.Path("copy.txt"))) << name;
         EXPECT_EQ(t.ReadFile("copy.txt"), t.ReadFile(name)) << name;
     }
     TestGame t;
-    ASSERT_FALSE(ApplyLayoutLine(t.g, Small));
+    ASSERT_TRUE(ApplyLayoutLine(t.g, Small).Ok());
     EXPECT_FALSE(WriteLayoutFile(t.g, t.Path("no-such-folder/layout.txt")));
     const std::string path = t.WriteFile("keep.txt", "previous\r\n");
     std::filesystem::create_directory(path + ".tmp");   // the temporary name is taken
@@ -71,7 +71,7 @@ TEST(PositionRecord, ARecordChangesOnlyTheSquaresItCovers) {
     };
     for (const auto& r : rows) {
         TestGame t;
-        ASSERT_FALSE(ApplyLayoutLine(t.g, Small));
+        ASSERT_TRUE(ApplyLayoutLine(t.g, Small).Ok());
         ApplyPositionRecord(t.g, r.record);
         EXPECT_EQ(LayoutLine(t.g), r.after) << r.record;
         EXPECT_EQ(t.g.Board(6, 3), HomeCode) << r.record;   // the frame

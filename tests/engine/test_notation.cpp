@@ -54,14 +54,14 @@ TEST(Otn, PositionsAreWrittenRankByRankAndReadBack) {
     };
     for (const auto& r : rows) {
         TestGame t;
-        ASSERT_FALSE(ApplyLayoutLine(t.g, r.layout));
+        ASSERT_TRUE(ApplyLayoutLine(t.g, r.layout).Ok());
         EXPECT_EQ(OtnPosition(t.g), r.otn) << r.layout;
         std::string line, reason;
         ASSERT_TRUE(OtnToLayoutLine(r.otn, line, reason)) << reason;
         EXPECT_EQ(line, r.layout) << r.otn;
     }
     TestGame t;
-    ASSERT_FALSE(ReadLayoutFile(t.g, DataPath("patf.txt")));
+    ASSERT_TRUE(ReadLayoutFile(t.g, DataPath("patf.txt")).Ok());
     EXPECT_EQ(OtnPosition(t.g), OpeningOtn);
 }
 

@@ -38,7 +38,7 @@ TEST(Pointer, OnlyDefendersAndTheKingMoveAndOnlyToTheSquaresTheyCanReach) {
     };
     for (const auto& r : rows) {
         TestGame t;
-        ASSERT_FALSE(ApplyLayoutLine(t.g, Open));
+        ASSERT_TRUE(ApplyLayoutLine(t.g, Open).Ok());
         EXPECT_EQ(BeginDrag(t.g, r.fromCol, r.fromRow) && AcceptsDrop(t.g, r.toCol, r.toRow), r.accepted) << r.why;
     }
 }
@@ -55,7 +55,7 @@ TEST(Pointer, ADropMovesRecordsAndCapturesOrChangesNothing) {
     };
     for (const auto& r : rows) {
         TestGame t;
-        ASSERT_FALSE(ApplyLayoutLine(t.g, layout));
+        ASSERT_TRUE(ApplyLayoutLine(t.g, layout).Ok());
         t.g.Check1 = false;
         ASSERT_TRUE(BeginDrag(t.g, r.fromCol, r.fromRow)) << r.why;
         EndDrag(t.g, r.toCol, r.toRow);
@@ -70,7 +70,7 @@ TEST(Pointer, DropsFollowTheBoardEvenWhenTheTablesAreStale) {
     // The pointer walks the board as it stands, whatever analysis a computer player's trial left behind.
     TestGame t;
     Game& g = t.g;
-    ASSERT_FALSE(ApplyLayoutLine(g, "07070404HEEEEEHE0EEEEEEEEEEEEEEE0EEEEEEEEEEEEEEEEEHEEEEEH"));
+    ASSERT_TRUE(ApplyLayoutLine(g, "07070404HEEEEEHE0EEEEEEEEEEEEEEE0EEEEEEEEEEEEEEEEEHEEEEEH").Ok());
     g.Board(2, 4) = AttackerCode;   // placed after the analysis: the lists still show (2,4) free
     ASSERT_NE(g.MoveTargets(2, 2).find("0205,"), std::string::npos);
     ASSERT_TRUE(BeginDrag(g, 2, 2));
