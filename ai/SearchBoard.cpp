@@ -1,5 +1,7 @@
 #include "ai/SearchBoard.h"
 
+#include <algorithm>
+
 #include "core/Board.h"
 
 namespace jv {
@@ -226,6 +228,20 @@ std::uint64_t SearchBoard::Perft(int depth) {
         Unmake(moves[i], undo);
     }
     return total;
+}
+
+bool SearchBoard::Allows(int fromCol, int fromRow, int toCol, int toRow) const {
+    const bool onBoard = fromCol >= 1 && fromCol <= width_ && fromRow >= 1 && fromRow <= height_ && toCol >= 1 &&
+                         toCol <= width_ && toRow >= 1 && toRow <= height_;
+    if (!onBoard || status_ != SearchStatus::Playing) return false;
+    SearchMove moves[MaxSearchMoves];
+    const int n = Generate(moves);
+    const SearchMove wanted{static_cast<std::uint8_t>(CellOf(fromCol, fromRow)), static_cast<std::uint8_t>(CellOf(toCol, toRow))};
+    return std::find(moves, moves + n, wanted) != moves + n;
+}
+
+bool IsLegalMove(const Game& g, int side, int fromCol, int fromRow, int toCol, int toRow) {
+    return SearchBoard(g, side).Allows(fromCol, fromRow, toCol, toRow);
 }
 
 }  // namespace jv

@@ -62,6 +62,8 @@ public:
 
     // The moves of the side to move, into out; returns their number.
     int Generate(SearchMove* out) const;
+    // True when the side to move may make the move between the two squares.
+    bool Allows(int fromCol, int fromRow, int toCol, int toRow) const;
     // True when the move takes at least one piece (the King aside).
     bool Captures(SearchMove m) const;
 
@@ -98,5 +100,9 @@ private:
     SearchStatus status_ = SearchStatus::Playing;
     std::uint64_t key_ = 0;
 };
+
+// True when side (AttackerCode or DefenderCode) may make the move in the
+// game's position as it stands, the King's move onto a corner included.
+bool IsLegalMove(const Game& g, int side, int fromCol, int fromRow, int toCol, int toRow);
 
 }  // namespace jv

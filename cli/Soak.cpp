@@ -7,11 +7,13 @@
 #include <vector>
 
 #include "ai/AutoMove.h"
+#include "ai/SearchBoard.h"
 #include "ai/SelfPlay.h"
 #include "cli/CliView.h"
 #include "cli/Commands.h"
 #include "cli/GameLoad.h"
 #include "core/Analysis.h"
+#include "core/Board.h"
 #include "core/Move.h"
 #include "core/VbText.h"
 #include "records/Layouts.h"
@@ -90,9 +92,13 @@ int Pieces(const Game& g) {
     return n;
 }
 
-// What a move did that no move may do: add a piece, take one without a
-// capture, or leave the King's square without the King.
-std::string MoveFault(const Game& g, const SoakMove& m, int piecesBefore) {
+// What a move did that no move may do: break the rules of the position it
+// was made in, add a piece, take one without a capture, or leave the King's
+// square without the King.
+std::string MoveFault(const Game& g, const SoakMove& m, const SearchBoard& before, int piecesBefore) {
+    if (!before.Allows(m.FromCol, m.FromRow, m.ToCol, m.ToRow))
+        return "the move " + SquareName(g, m.FromCol, m.FromRow) + " > " + SquareName(g, m.ToCol, m.ToRow) +
+               " is not legal";
     const int pieces = Pieces(g);
     if (pieces > piecesBefore || (m.Kind == MoveKind::Random && pieces != piecesBefore))
         return std::to_string(piecesBefore) + " pieces became " + std::to_string(pieces);
@@ -201,13 +207,14 @@ bool RunSoakOn(const SoakOptions& o, SoakReport& r) {
         if (moves.size() == warmUp && r.Start.InUse == -1) r.Start = ReadMemory(g);
         SoakMove move;
         const int piecesBefore = Pieces(g);
+        const SearchBoard before(g, side);
         bool over = GameOver(g, side, r);
         if (!over && !PlayTurn(g, view, side, move, r)) {
             ++r.Stalemates;
             over = true;
         }
         if (!over) {
-            r.FirstFault = MoveFault(g, move, piecesBefore);
+            r.FirstFault = MoveFault(g, move, before, piecesBefore);
             if (!r.FirstFault.empty()) {
                 r.FirstFault = "move " + std::to_string(moves.size() + 1) + ": " + r.FirstFault;
                 break;

@@ -193,11 +193,13 @@ TEST(MakeGreenAutoMove, PlaysTheFirstLineOfList1D) {
 }
 
 TEST(MakeGreenAutoMove, NoMoveForTheDefender) {
-    // With no candidate the message is shown, nothing moves and the board and pointer are given back.
+    // The King boxed in by four attackers and no other defender: the message is shown, nothing moves
+    // and the board and pointer are given back.
     TestGame t;
-    t.CopyData("patf.txt");
     Game& g = t.g;
-    LoadLayout(g, "patf.txt");
+    PlacePieces(g, 7, 7, {".a.....", "a.a....", ".a.....", ".......", ".......", ".......", "......."});
+    g.Board(2, 2) = DefenderCode;
+    g.KingCol = g.KingRow = 2;
     const std::string before = EncodePosition(g);
     t.view.Clear();
     MakeGreenAutoMove(g);
@@ -206,6 +208,38 @@ TEST(MakeGreenAutoMove, NoMoveForTheDefender) {
     const Lines& calls = t.view.Calls;
     EXPECT_EQ(Lines(calls.end() - 2, calls.end()), (Lines{"EnableBoard 1", "SetBusy 0"}));
     EXPECT_TRUE(g.BoardEnabled);
+}
+
+TEST(MakeGreenAutoMove, WithoutARankedMoveTheSearchedMoveIsMadeAndExplained) {
+    // From the 11x11 opening the ranking lists no defender move: one defender move is made all the
+    // same, the event log says why and names the move that was made, and a second game from the same
+    // opening gets the same move.
+    std::string firstLog;
+    for (int game = 0; game < 2; ++game) {
+        TestGame t;
+        t.CopyData("patf.txt");
+        Game& g = t.g;
+        LoadLayout(g, "patf.txt");
+        g.Check1 = true;   // the attackers' reply is not the defenders' move to make
+        const Game before = g;
+        MakeGreenAutoMove(g);
+        EXPECT_TRUE(t.view.Messages().empty());
+        int moved = 0;
+        std::string from, to;
+        for (int c = 1; c <= g.BoardWidth; ++c)
+            for (int r = 1; r <= g.BoardHeight; ++r) {
+                if (g.Board(c, r) == before.Board(c, r)) continue;
+                ++moved;
+                (g.Board(c, r) == DefenderCode ? to : from) = SquareName(g, c, r);
+            }
+        EXPECT_EQ(moved, 2);
+        const auto why = std::find(g.EventLog.begin(), g.EventLog.end(), "No ranked move: searched " + from + " > " + to);
+        ASSERT_NE(why, g.EventLog.end()) << from << " > " << to;
+        ASSERT_NE(why + 1, g.EventLog.end());
+        EXPECT_NE((why + 1)->find("Move " + from + " > " + to), std::string::npos) << *(why + 1);
+        if (game == 0) firstLog = *why;
+        else EXPECT_EQ(*why, firstLog);
+    }
 }
 
 TEST(ListMovePreview, APressedLineShowsItsMove) {
