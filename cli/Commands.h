@@ -23,6 +23,7 @@ int RunOtn(const Args& args);
 int RunFromOtn(const Args& args);
 int RunRecord(const Args& args);
 int RunBestmove(const Args& args);
+int RunMatch(const Args& args);
 
 // Prepares a game for a command: the program's folder, the column letters,
 // the given view.

@@ -197,9 +197,7 @@ TEST(MakeGreenAutoMove, NoMoveForTheDefender) {
     // and the board and pointer are given back.
     TestGame t;
     Game& g = t.g;
-    PlacePieces(g, 7, 7, {".a.....", "a.a....", ".a.....", ".......", ".......", ".......", "......."});
-    g.Board(2, 2) = DefenderCode;
-    g.KingCol = g.KingRow = 2;
+    PlacePieces(g, 7, 7, {".a.....", "aKa....", ".a....."});
     const std::string before = EncodePosition(g);
     t.view.Clear();
     MakeGreenAutoMove(g);
@@ -286,10 +284,9 @@ TEST(PlayAutoGame, EndsOnAFreeRunANoMoveOrTheMoveLimit) {
     EXPECT_EQ(r.End, GameEnd::MoveLimit);
     EXPECT_EQ(r.Moves, 1);
 
-    TestGame u;
-    u.CopyData("patf.txt");
-    LoadLayout(u.g, "patf.txt");
-    r = PlayAutoGame(u.g, 300);
+    // The King boxed in by four attackers, no other defender.
+    PlacePieces(g, 7, 7, {".a.....", "aKa....", ".a....."});
+    r = PlayAutoGame(g, 300);
     EXPECT_EQ(r.End, GameEnd::DefendersWithoutMove);
     EXPECT_EQ(r.Moves, 0);
 }
