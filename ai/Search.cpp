@@ -29,6 +29,10 @@ constexpr int HistoryLimit = 1 << 26;
 
 constexpr int Steps[4] = {-SearchStride, SearchStride, 1, -1};
 
+// A draw is a little worse than an even position for the side searching, so
+// that it does not go round in circles while it can still play on.
+constexpr int Contempt = 40;
+
 BoardMove ToBoardMove(SearchMove m) { return BoardMove{ColOf(m.From), RowOf(m.From), ColOf(m.To), RowOf(m.To)}; }
 
 bool Beside(int a, int b) { return a >= 0 && (std::abs(a - b) == 1 || std::abs(a - b) == SearchStride); }
@@ -43,7 +47,9 @@ public:
     Searcher(const Game& g, int side, const SearchLimits& limits)
         : board_(g, side), table_(limits.TableMegabytes), limits_(limits),
           history_(2 * SearchCells * SearchCells, 0), start_(Clock::now()),
-          deadline_(start_ + std::chrono::milliseconds(limits.Millis)) {}
+          deadline_(start_ + std::chrono::milliseconds(limits.Millis)) {
+        for (std::uint64_t key : limits.Played) played_[key % played_.size()] = true;
+    }
 
     SearchResult Run(const Game& g, const std::function<void(const SearchProgress&)>& onProgress);
 
@@ -55,9 +61,11 @@ private:
         return board_.SideToMove() == AttackerCode ? score : -score;
     }
     bool Repeated(int ply) const;
+    int DrawScore(int ply) const;
     bool Stopped();
     double Seconds() const { return std::chrono::duration<double>(Clock::now() - start_).count(); }
     int Defences(SearchMove* moves, int n, const std::array<bool, SearchCells>& lines) const;
+    int ThreatAnswers(SearchMove* moves, const std::array<bool, SearchCells>& lines) const;
     void Order(const SearchMove* moves, int n, int* order, SearchMove tableMove, int ply) const;
     void Prefer(SearchMove m, int depth, int ply);
     int& History(SearchMove m) { return history_[(board_.SideToMove() * SearchCells + m.From) * SearchCells + m.To]; }
@@ -76,6 +84,8 @@ private:
     std::vector<int> history_;
     std::array<std::array<SearchMove, SearchMaxPly>, SearchMaxPly> pv_{};
     std::array<int, SearchMaxPly> pvLength_{};
+    // A quick first test of the game's earlier positions, by key.
+    std::array<bool, 4096> played_{};
     std::uint64_t nodes_ = 0;
     bool stopped_ = false;
     Clock::time_point start_, deadline_;
@@ -84,8 +94,11 @@ private:
 bool Searcher::Repeated(int ply) const {
     for (int p = ply - 2; p >= 0; p -= 2)
         if (keys_[p] == keys_[ply]) return true;
-    return false;
+    if (!played_[keys_[ply] % played_.size()]) return false;
+    return std::find(limits_.Played.begin(), limits_.Played.end(), keys_[ply]) != limits_.Played.end();
 }
+
+int Searcher::DrawScore(int ply) const { return ply % 2 == 0 ? -Contempt : Contempt; }
 
 bool Searcher::Stopped() {
     if ((nodes_ & 1023) == 0 && !stopped_) {
@@ -159,31 +172,27 @@ int Searcher::Quiesce(int alpha, int beta, int ply, int qply) {
     std::array<bool, SearchCells> lines{};
     const bool threatened = board_.SideToMove() == AttackerCode && board_.KingRoutes(&lines) > 0;
     SearchMove moves[MaxSearchMoves];
-    int n = board_.Generate(moves);
-    if (n == 0) return -(SearchWin - ply);
+    int n = 0;
     int best = -Infinity;
     if (threatened) {
-        n = Defences(moves, n, lines);
+        n = ThreatAnswers(moves, lines);
         best = -(SearchWin - (ply + 2));
     } else {
         best = Evaluate();
         if (best >= beta || qply >= QuiescePlies) return best;
+        n = board_.GenerateTactical(moves);
     }
     alpha = std::max(alpha, best);
     const int king = board_.King();
-    const bool attacker = board_.SideToMove() == AttackerCode;
     for (int i = 0; i < n; ++i) {
         const SearchMove m = moves[i];
-        // Captures, the attackers' moves beside the King, and the King's own moves.
-        const bool tactical = threatened || board_.Captures(m) || m.From == king || (attacker && Beside(king, m.To));
-        if (!tactical) continue;
         SearchUndo undo;
         board_.Make(m, undo);
         ++nodes_;
         int score;
         if (board_.Status() != SearchStatus::Playing) {
             score = SearchWin - (ply + 1);
-        } else if (m.From == king && board_.KingRoutes() == 0 && !threatened && undo.Count == 0) {
+        } else if (m.From == king && board_.KingRoutes() == 0 && undo.Count == 0) {
             // A King move that neither takes a piece nor opens a line to a corner is not a threat.
             board_.Unmake(m, undo);
             continue;
@@ -203,9 +212,22 @@ int Searcher::Quiesce(int alpha, int beta, int ply, int qply) {
     return best;
 }
 
+// The attackers' moves onto the King's free lines to the corners or beside
+// him; every move when he is closed in already, for any move then takes him.
+int Searcher::ThreatAnswers(SearchMove* moves, const std::array<bool, SearchCells>& lines) const {
+    if (board_.KingSurrounded()) return board_.Generate(moves);
+    std::uint8_t targets[SearchCells];
+    int count = 0;
+    for (int cell = 0; cell < SearchCells; ++cell)
+        if (lines[cell]) targets[count++] = static_cast<std::uint8_t>(cell);
+    for (int step : Steps)
+        if (!lines[board_.King() + step]) targets[count++] = static_cast<std::uint8_t>(board_.King() + step);
+    return board_.GenerateOnto(targets, count, moves);
+}
+
 int Searcher::Negamax(int depth, int alpha, int beta, int ply, bool nullAllowed) {
     pvLength_[ply] = ply;
-    if (ply > 0 && Repeated(ply)) return 0;
+    if (ply > 0 && Repeated(ply)) return DrawScore(ply);
     if (board_.SideToMove() == DefenderCode && board_.KingRoutes() > 0) return KingHome(ply);
     if (depth <= 0 || ply >= SearchMaxPly - QuiescePlies - 2) return Quiesce(alpha, beta, ply, 0);
     if (Stopped()) return 0;
@@ -327,6 +349,8 @@ SearchResult Searcher::Run(const Game& g, const std::function<void(const SearchP
 }
 
 }  // namespace
+
+std::uint64_t PositionKey(const Game& g, int side) { return SearchBoard(g, side).Key(); }
 
 SearchResult SearchBestMove(const Game& g, int side, const SearchLimits& limits,
                             const std::function<void(const SearchProgress&)>& onProgress) {

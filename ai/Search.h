@@ -17,6 +17,9 @@ struct SearchLimits {
     int Millis = 0;                             // 0: no time limit
     const std::atomic<bool>* Stop = nullptr;    // set to cancel at once
     std::size_t TableMegabytes = 16;            // 0: search without a table
+    // The keys (PositionKey) of the positions the game has already been in: a
+    // line that comes back to one scores as a draw.
+    std::vector<std::uint64_t> Played;
 };
 
 // A move by its squares (Col and Row as the Game numbers them).
@@ -48,6 +51,9 @@ struct SearchResult {
     double Millis = 0;
     std::vector<BoardMove> Pv;
 };
+
+// The search's key of the game's position with side to move.
+std::uint64_t PositionKey(const Game& g, int side);
 
 // True when a score says the side to move wins (or loses, negated) by force.
 inline bool IsWinScore(int score) { return score > SearchWin - SearchMaxPly; }

@@ -86,6 +86,54 @@ int SearchBoard::Generate(SearchMove* out) const {
     return n;
 }
 
+int SearchBoard::GenerateOnto(const std::uint8_t* targets, int count, SearchMove* out) const {
+    int n = 0;
+    for (int t = 0; t < count; ++t) {
+        const int to = targets[t];
+        const bool corner = cells_[to] == CellCorner;
+        if (cells_[to] != CellEmpty && !corner) continue;
+        for (int step : Steps) {
+            int from = to + step;
+            while (cells_[from] == CellEmpty) from += step;
+            const int piece = cells_[from];
+            const bool mine = side_ == AttackerCode ? piece == CellAttacker : piece == CellDefender || piece == CellKing;
+            // Only the King stops on the centre or goes home.
+            if (!mine || ((to == centre_ || corner) && piece != CellKing)) continue;
+            out[n++] = SearchMove{static_cast<std::uint8_t>(from), static_cast<std::uint8_t>(to)};
+        }
+    }
+    return n;
+}
+
+int SearchBoard::GenerateTactical(SearchMove* out) const {
+    std::uint8_t targets[SearchCells];
+    std::array<bool, SearchCells> listed{};
+    int count = 0;
+    auto add = [&](int cell) {
+        if (cells_[cell] != CellEmpty || listed[cell]) return;
+        listed[cell] = true;
+        targets[count++] = static_cast<std::uint8_t>(cell);
+    };
+    const int mover = side_ == AttackerCode ? CellAttacker : CellDefender;
+    const int enemies = side_ == AttackerCode ? 0 : 1;
+    for (int i = 0; i < pieceCount_[enemies]; ++i) {
+        const int enemy = pieces_[enemies][i];
+        for (int step : Steps)
+            if (Hostile(enemy - step, mover)) add(enemy + step);
+    }
+    if (king_ >= 0 && side_ == AttackerCode)
+        for (int step : Steps) add(king_ + step);
+    int n = GenerateOnto(targets, count, out);
+    if (king_ < 0 || side_ != DefenderCode) return n;
+    // The King's moves onto the squares listed already are there.
+    for (int step : Steps)
+        for (int to = king_ + step; cells_[to] == CellEmpty || cells_[to] == CellCorner; to += step) {
+            if (!listed[to]) out[n++] = SearchMove{static_cast<std::uint8_t>(king_), static_cast<std::uint8_t>(to)};
+            if (cells_[to] == CellCorner) break;
+        }
+    return n;
+}
+
 // True when the cell closes a sandwich for a piece of the mover's side: one
 // of the mover's own pieces (the King among the defenders) or a Home corner.
 bool SearchBoard::Hostile(int cell, int mover) const {

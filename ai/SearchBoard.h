@@ -62,6 +62,12 @@ public:
 
     // The moves of the side to move, into out; returns their number.
     int Generate(SearchMove* out) const;
+    // The moves of the side to move that end on one of the cells (each cell
+    // listed once), found by looking back from each cell along its four lines.
+    int GenerateOnto(const std::uint8_t* targets, int count, SearchMove* out) const;
+    // The side to move's captures and its moves onto the squares beside the
+    // King; for the defenders also every King move.
+    int GenerateTactical(SearchMove* out) const;
     // True when the side to move may make the move between the two squares.
     bool Allows(int fromCol, int fromRow, int toCol, int toRow) const;
     // True when the move takes at least one piece (the King aside).

@@ -78,8 +78,9 @@ struct LayoutTally {
     long long SideMoves[2] = {0, 0};
 };
 
-// One move of the side's player; false when it made none.
-bool PlayMove(Game& g, int side, const Player& p) {
+// One move of the side's player; false when it made none. The strong player
+// is told the positions played so far.
+bool PlayMove(Game& g, int side, const Player& p, const std::vector<std::uint64_t>& played) {
     const std::size_t records = g.Undo.size();
     if (!p.Strong) {
         if (side == DefenderCode) MakeGreenAutoMove(g);
@@ -91,6 +92,7 @@ bool PlayMove(Game& g, int side, const Player& p) {
     }
     SearchLimits limits;
     limits.Millis = p.Millis;
+    limits.Played = played;
     const SearchResult r = SearchBestMove(g, side, limits);
     if (!r.HasMove) return false;
     const BoardMove& m = r.Move;
@@ -101,11 +103,13 @@ bool PlayMove(Game& g, int side, const Player& p) {
 
 // The side to move has lost when the King is taken or home, or it cannot move.
 Outcome PlayGame(Game& g, const MatchOptions& o, int side, LayoutTally& tally) {
+    std::vector<std::uint64_t> played;
     for (int moves = 0; moves < MaxGameMoves; ++moves) {
         if (KingAtHome(g) == 99 || (side == DefenderCode && KingHasFreeRun(g))) return Outcome::DefendersWin;
         if (g.GameOver) return Outcome::AttackersWin;
         const auto started = std::chrono::steady_clock::now();
-        const bool moved = PlayMove(g, side, o.Players[side]);
+        played.push_back(PositionKey(g, side));
+        const bool moved = PlayMove(g, side, o.Players[side], played);
         tally.Seconds[side] += std::chrono::duration<double>(std::chrono::steady_clock::now() - started).count();
         if (!moved) return side == DefenderCode ? Outcome::AttackersWin : Outcome::DefendersWin;
         ++tally.SideMoves[side];
