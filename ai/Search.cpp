@@ -33,6 +33,24 @@ constexpr int Steps[4] = {-SearchStride, SearchStride, 1, -1};
 // that it does not go round in circles while it can still play on.
 constexpr int Contempt = 40;
 
+// Moves picked one by one before the rest of a node's moves is sorted.
+constexpr int SortedPicks = 3;
+
+// Sorts moves by their order numbers, highest first.
+void SortRest(SearchMove* moves, int* order, int n) {
+    struct Scored {
+        int Order;
+        SearchMove Move;
+    };
+    Scored scored[MaxSearchMoves];
+    for (int i = 0; i < n; ++i) scored[i] = Scored{order[i], moves[i]};
+    std::sort(scored, scored + n, [](const Scored& a, const Scored& b) { return a.Order > b.Order; });
+    for (int i = 0; i < n; ++i) {
+        order[i] = scored[i].Order;
+        moves[i] = scored[i].Move;
+    }
+}
+
 BoardMove ToBoardMove(SearchMove m) { return BoardMove{ColOf(m.From), RowOf(m.From), ColOf(m.To), RowOf(m.To)}; }
 
 bool Beside(int a, int b) { return a >= 0 && (std::abs(a - b) == 1 || std::abs(a - b) == SearchStride); }
@@ -169,12 +187,13 @@ int Searcher::Quiesce(int alpha, int beta, int ply, int qply) {
     if (board_.SideToMove() == DefenderCode && board_.KingRoutes() > 0) return KingHome(ply);
     if (ply >= SearchMaxPly - 1 || Stopped()) return Evaluate();
 
-    std::array<bool, SearchCells> lines{};
-    const bool threatened = board_.SideToMove() == AttackerCode && board_.KingRoutes(&lines) > 0;
+    const bool threatened = board_.SideToMove() == AttackerCode && board_.KingRoutes() > 0;
     SearchMove moves[MaxSearchMoves];
     int n = 0;
     int best = -Infinity;
     if (threatened) {
+        std::array<bool, SearchCells> lines{};
+        board_.KingRoutes(&lines);
         n = ThreatAnswers(moves, lines);
         best = -(SearchWin - (ply + 2));
     } else {
@@ -242,8 +261,7 @@ int Searcher::Negamax(int depth, int alpha, int beta, int ply, bool nullAllowed)
             return score;
     }
 
-    std::array<bool, SearchCells> lines{};
-    const bool threatened = board_.SideToMove() == AttackerCode && board_.KingRoutes(&lines) > 0;
+    const bool threatened = board_.SideToMove() == AttackerCode && board_.KingRoutes() > 0;
     // Null move: when passing still holds the position above beta, a move will too.
     if (!pvNode && nullAllowed && !threatened && depth >= 3 && Evaluate() >= beta) {
         board_.MakeNull();
@@ -258,6 +276,8 @@ int Searcher::Negamax(int depth, int alpha, int beta, int ply, bool nullAllowed)
     int n = board_.Generate(moves);
     if (n == 0) return -(SearchWin - ply);   // a side that cannot move has lost
     if (threatened) {
+        std::array<bool, SearchCells> lines{};
+        board_.KingRoutes(&lines);
         n = Defences(moves, n, lines);
         if (n == 0) return -(SearchWin - (ply + 2));
     }
@@ -268,10 +288,15 @@ int Searcher::Negamax(int depth, int alpha, int beta, int ply, bool nullAllowed)
     int best = -Infinity;
     SearchMove bestMove = moves[0];
     for (int i = 0; i < n; ++i) {
-        // Selection sort: the best remaining move first.
-        const int pick = static_cast<int>(std::max_element(order + i, order + n) - order);
-        std::swap(moves[i], moves[pick]);
-        std::swap(order[i], order[pick]);
+        // The first moves are picked one at a time, as a cut-off often comes
+        // early; past them the rest is sorted at once.
+        if (i < SortedPicks) {
+            const int pick = static_cast<int>(std::max_element(order + i, order + n) - order);
+            std::swap(moves[i], moves[pick]);
+            std::swap(order[i], order[pick]);
+        } else if (i == SortedPicks) {
+            SortRest(moves + i, order + i, n - i);
+        }
         const SearchMove m = moves[i];
         const bool quiet = order[i] < KillerOrder - 1;
 

@@ -1,6 +1,7 @@
 #include "ai/SearchBoard.h"
 
 #include <algorithm>
+#include <bitset>
 
 #include "core/Board.h"
 
@@ -107,7 +108,7 @@ int SearchBoard::GenerateOnto(const std::uint8_t* targets, int count, SearchMove
 
 int SearchBoard::GenerateTactical(SearchMove* out) const {
     std::uint8_t targets[SearchCells];
-    std::array<bool, SearchCells> listed{};
+    std::bitset<SearchCells> listed;
     int count = 0;
     auto add = [&](int cell) {
         if (cells_[cell] != CellEmpty || listed[cell]) return;
