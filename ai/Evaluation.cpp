@@ -15,6 +15,7 @@ constexpr int KingSquare = 8;         // each square the King can move to
 constexpr int RingSide = 35;          // an attacker (or corner) beside the King
 constexpr int RingDiagonal = 12;      // an attacker diagonally beside him
 constexpr int CornerDistance = 12;    // each step between the King and his nearest corner
+constexpr int Closing = 3;            // each step fewer between an attacker and the King
 
 constexpr int Steps[4] = {-SearchStride, SearchStride, 1, -1};
 
@@ -57,6 +58,15 @@ int Ring(const SearchBoard& b, int king) {
     return score;
 }
 
+// The attackers' steps to the King, summed: the fewer, the tighter they close in.
+int AttackerSteps(const SearchBoard& b, int king) {
+    const int col = ColOf(king), row = RowOf(king);
+    int steps = 0;
+    const std::uint8_t* cells = b.AttackerCells();
+    for (int i = 0; i < b.Attackers(); ++i) steps += std::abs(ColOf(cells[i]) - col) + std::abs(RowOf(cells[i]) - row);
+    return steps;
+}
+
 int NearestCorner(const SearchBoard& b, int king) {
     const int col = ColOf(king), row = RowOf(king);
     const int dc = std::min(col - 1, b.Width() - col), dr = std::min(row - 1, b.Height() - row);
@@ -74,6 +84,7 @@ int EvaluateForAttackers(const SearchBoard& b) {
     score -= KingSquare * KingMobility(b, king);
     score += Ring(b, king);
     score += CornerDistance * NearestCorner(b, king);
+    score -= Closing * AttackerSteps(b, king);
     return score;
 }
 
