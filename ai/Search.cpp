@@ -82,7 +82,6 @@ private:
     int DrawScore(int ply) const;
     bool Stopped();
     double Seconds() const { return std::chrono::duration<double>(Clock::now() - start_).count(); }
-    int Defences(SearchMove* moves, int n, const std::array<bool, SearchCells>& lines) const;
     int ThreatAnswers(SearchMove* moves, const std::array<bool, SearchCells>& lines) const;
     void Order(const SearchMove* moves, int n, int* order, SearchMove tableMove, int ply) const;
     void Prefer(SearchMove m, int depth, int ply);
@@ -145,17 +144,6 @@ int Searcher::KingHome(int ply) {
         break;
     }
     return SearchWin - (ply + 1);
-}
-
-// The attackers facing a free line from the King to a corner: only a move
-// onto that line, or beside the King (which may take him), can save them;
-// when he is already closed in, any move takes him.
-int Searcher::Defences(SearchMove* moves, int n, const std::array<bool, SearchCells>& lines) const {
-    if (board_.KingSurrounded()) return n;
-    int kept = 0;
-    for (int i = 0; i < n; ++i)
-        if (lines[moves[i].To] || Beside(board_.King(), moves[i].To)) moves[kept++] = moves[i];
-    return kept;
 }
 
 void Searcher::Order(const SearchMove* moves, int n, int* order, SearchMove tableMove, int ply) const {
@@ -231,8 +219,9 @@ int Searcher::Quiesce(int alpha, int beta, int ply, int qply) {
     return best;
 }
 
-// The attackers' moves onto the King's free lines to the corners or beside
-// him; every move when he is closed in already, for any move then takes him.
+// The attackers facing a free line from the King to a corner: only their
+// moves onto that line or beside him (which may take him) can save them;
+// every move when he is closed in already, for any move then takes him.
 int Searcher::ThreatAnswers(SearchMove* moves, const std::array<bool, SearchCells>& lines) const {
     if (board_.KingSurrounded()) return board_.Generate(moves);
     std::uint8_t targets[SearchCells];
@@ -278,7 +267,7 @@ int Searcher::Negamax(int depth, int alpha, int beta, int ply, bool nullAllowed)
     if (threatened) {
         std::array<bool, SearchCells> lines{};
         board_.KingRoutes(&lines);
-        n = Defences(moves, n, lines);
+        n = ThreatAnswers(moves, lines);
         if (n == 0) return -(SearchWin - (ply + 2));
     }
     int order[MaxSearchMoves];

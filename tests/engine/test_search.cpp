@@ -142,25 +142,25 @@ TEST(Search, FindsTheForcedMoveAtTheDepthItNeeds) {
     }
 }
 
-TEST(Search, TheTableChangesNotTheMoveAtAFixedDepth) {
-    // With and without the table, and twice over, a fixed depth gives the same move: the forced
-    // positions and the 11x11 opening for both sides.
+TEST(Search, TheTableChangesNotTheForcedMoveAndAFixedDepthRepeats) {
+    // Searched two plies deeper than they need, with and without the table, the forced positions
+    // keep their move; from the 11x11 opening a fixed depth gives the same move and the same node
+    // count every time. (In an open position the table reorders the moves, and the reductions
+    // that follow from the order may then settle on another move of about the same score.)
     for (const Forced& f : ForcedPositions) {
         TestGame t;
         PlacePieces(t.g, 7, 7, f.cols);
         const SearchResult with = SearchTo(t.g, f.side, f.depth + 2);
         const SearchResult without = SearchTo(t.g, f.side, f.depth + 2, 0);
-        EXPECT_EQ(MoveName(with.Move), MoveName(without.Move)) << f.what;
         EXPECT_EQ(MoveName(with.Move), MoveName(f.move)) << f.what;
+        EXPECT_EQ(MoveName(without.Move), MoveName(f.move)) << f.what;
     }
     TestGame t;
     ReadLayout(t, "patf.txt");
     for (int side : {DefenderCode, AttackerCode}) {
-        const SearchResult first = SearchTo(t.g, side, 4), again = SearchTo(t.g, side, 4);
-        const SearchResult without = SearchTo(t.g, side, 4, 0);
+        const SearchResult first = SearchTo(t.g, side, 5), again = SearchTo(t.g, side, 5);
         EXPECT_EQ(MoveName(first.Move), MoveName(again.Move)) << SideName(side);
         EXPECT_EQ(first.Nodes, again.Nodes) << SideName(side);
-        EXPECT_EQ(MoveName(first.Move), MoveName(without.Move)) << SideName(side);
     }
 }
 
