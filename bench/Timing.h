@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
+#include <ctime>
 #include <vector>
 
 namespace jv::bench {
@@ -23,6 +24,14 @@ double MedianMicros(Body body, int batches = 21, int callsPerBatch = 200) {
 
 inline void Report(const char* what, const char* position, double micros) {
     std::printf("%-28s %-22s %12.2f us\n", what, position, micros);
+}
+
+// The calling thread's processor time so far, in seconds: on a shared
+// machine it shows the work without the waits other processes cause.
+inline double ThreadCpuSeconds() {
+    timespec now{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) / 1e9;
 }
 
 }  // namespace jv::bench

@@ -1,7 +1,9 @@
 #include <cstdio>
+#include <string>
 
 #include "BenchPerft.h"
 #include "BenchRank.h"
+#include "BenchSearch.h"
 #include "Positions.h"
 #include "Timing.h"
 #include "core/Analysis.h"
@@ -9,8 +11,10 @@
 #include "core/SilentView.h"
 #include "records/LayoutFile.h"
 
-int main() {
+int main(int argc, char** argv) {
     using namespace jv;
+    // "search" alone runs only the strong player's figures.
+    if (argc > 1 && std::string(argv[1]) == "search") return bench::BenchSearch() ? 0 : 2;
     std::printf("%-28s %-22s %15s\n", "what", "position", "median per call");
     for (const bench::BenchPosition& p : bench::BenchPositions()) {
         SilentView view;
@@ -25,5 +29,6 @@ int main() {
     }
     if (!bench::BenchPerft()) return 2;
     if (!bench::BenchRank()) return 2;
+    if (!bench::BenchSearch()) return 2;
     return 0;
 }

@@ -25,6 +25,8 @@ int RunSoak(const Args& args);
 int RunOtn(const Args& args);
 int RunFromOtn(const Args& args);
 int RunRecord(const Args& args);
+int RunBestmove(const Args& args);
+int RunMatch(const Args& args);
 
 // A game set up for one command: its own view, the program's folder and the
 // column letters.

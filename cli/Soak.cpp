@@ -6,9 +6,11 @@
 #include <filesystem>
 #include <vector>
 
+#include "ai/SearchBoard.h"
 #include "cli/CliView.h"
 #include "cli/Commands.h"
 #include "core/Analysis.h"
+#include "core/Board.h"
 #include "core/Move.h"
 #include "core/VbText.h"
 #include "records/PositionRecord.h"
@@ -34,6 +36,8 @@ struct SoakMove {
     MoveKind Kind = MoveKind::Random;
     std::int8_t FromCol = 0, FromRow = 0, ToCol = 0, ToRow = 0;
     bool RestartAfter = false;   // the next line of the log is the layout's opening
+
+    Move Played() const { return {{FromCol, FromRow}, {ToCol, ToRow}}; }
 };
 
 SoakMove Made(MoveKind kind, const Move& m) {
@@ -87,9 +91,13 @@ int Pieces(const Game& g) {
     return n;
 }
 
-// What a move did that no move may do: add a piece, take one without a
-// capture, or leave the King's square without the King.
-std::string MoveFault(const Game& g, const SoakMove& m, int piecesBefore) {
+// What a move did that no move may do: break the rules of the position it
+// was made in, add a piece, take one without a capture, or leave the King's
+// square without the King.
+std::string MoveFault(const Game& g, const SoakMove& m, const SearchBoard& before, int piecesBefore) {
+    if (!before.Allows(m.FromCol, m.FromRow, m.ToCol, m.ToRow))
+        return "the move " + SquareName(g, m.FromCol, m.FromRow) + " > " + SquareName(g, m.ToCol, m.ToRow) +
+               " is not legal";
     const int pieces = Pieces(g);
     if (pieces > piecesBefore || (m.Kind == MoveKind::Random && pieces != piecesBefore))
         return std::to_string(piecesBefore) + " pieces became " + std::to_string(pieces);
@@ -115,9 +123,9 @@ bool GameOver(const Game& g, int side, SoakReport& r) {
 // The position after a recorded move, made again on the position before it.
 std::string Successor(Game& g, const SoakMove& m) {
     switch (m.Kind) {
-        case MoveKind::ComputerDefender: MakeDefenderMove(g, {{m.FromCol, m.FromRow}, {m.ToCol, m.ToRow}}); break;
-        case MoveKind::ComputerAttacker: MakeAttackerMove(g, {{m.FromCol, m.FromRow}, {m.ToCol, m.ToRow}}); break;
-        case MoveKind::Random: MovePiece(g, {{m.FromCol, m.FromRow}, {m.ToCol, m.ToRow}}); break;
+        case MoveKind::ComputerDefender: MakeDefenderMove(g, m.Played()); break;
+        case MoveKind::ComputerAttacker: MakeAttackerMove(g, m.Played()); break;
+        case MoveKind::Random: MovePiece(g, m.Played()); break;
     }
     g.Undo.clear();
     g.EventLog.clear();
@@ -198,13 +206,14 @@ bool RunSoakOn(const SoakOptions& o, SoakReport& r) {
         if (moves.size() == warmUp && r.Start.InUse == -1) r.Start = ReadMemory(g);
         SoakMove move;
         const int piecesBefore = Pieces(g);
+        const SearchBoard before(g, side);
         bool over = GameOver(g, side, r);
         if (!over && !PlayTurn(g, view, side, move, r)) {
             ++r.Stalemates;
             over = true;
         }
         if (!over) {
-            r.FirstFault = MoveFault(g, move, piecesBefore);
+            r.FirstFault = MoveFault(g, move, before, piecesBefore);
             if (!r.FirstFault.empty()) {
                 r.FirstFault = "move " + std::to_string(moves.size() + 1) + ": " + r.FirstFault;
                 break;

@@ -26,6 +26,8 @@ const std::map<std::string, Command>& Commands() {
         {"soak", {RunSoak, "soak FILE... [--moves N] [--seed S] [--log DIR]  a long self-play test, its moves log replayed"}},
         {"otn", {RunOtn, "otn FILE|-          print the OpenTafl position of a layout"}},
         {"from-otn", {RunFromOtn, "from-otn POSITION OUT  write an OpenTafl position as a layout file"}},
+        {"bestmove", {RunBestmove, "bestmove FILE --side attackers|defenders [--ms N | --depth D]  the strong player's move"}},
+        {"match", {RunMatch, "match --attackers classic|strong[:MS] --defenders classic|strong[:MS] --games N [--openings K] [--seed S] LAYOUT...  the players against each other"}},
         {"record", {RunRecord, "record LOGFILE      print a moves log as a game record in standard move notation"}},
     };
     return commands;

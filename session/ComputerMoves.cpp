@@ -4,8 +4,11 @@
 
 #include "ai/AttackerRank.h"
 #include "ai/DefenderRank.h"
+#include "ai/Search.h"
+#include "ai/SearchBoard.h"
 #include "core/Analysis.h"
 #include "core/Board.h"
+#include "core/EventLog.h"
 #include "core/GameView.h"
 #include "core/Move.h"
 #include "core/SortedList.h"
@@ -80,6 +83,64 @@ bool OnBoard(const Game& g, int col, int row) {
     return col >= 1 && col <= g.BoardWidth && row >= 1 && row <= g.BoardHeight;
 }
 
+// The strong player's search depth when the ranking names no move: fixed, so
+// that the same position always gets the same move.
+constexpr int FallbackDepth = 4;
+
+bool IsLegal(const Game& g, int side, const Move& m) {
+    return IsLegalMove(g, side, m.From.Col, m.From.Row, m.To.Col, m.To.Row);
+}
+
+std::string MoveName(const Game& g, const Move& m) {
+    return SquareName(g, m.From.Col, m.From.Row) + " > " + SquareName(g, m.To.Col, m.To.Row);
+}
+
+// The first line of a candidate list whose move the position as it stands allows.
+bool FirstLegal(const Game& g, int side, const std::vector<std::string>& list, Move& move) {
+    for (const std::string& line : list)
+        if (ReadListMove(line, move) && IsLegal(g, side, move)) return true;
+    return false;
+}
+
+// A ranked move the position does not allow is not made: the next legal
+// candidate of the list stands in for it, and the event log says so. False
+// when no candidate is legal.
+bool LegalCandidate(Game& g, int side, const std::vector<std::string>& list, Move& move) {
+    if (IsLegal(g, side, move)) return true;
+    const Move ranked = move;
+    if (!FirstLegal(g, side, list, move)) return false;
+    PrintLog(g, "Ranked move " + MoveName(g, ranked) + " is not legal: taking " + MoveName(g, move), side + 1, 0);
+    return true;
+}
+
+// The strong player's move to a fixed depth; false when the side cannot move.
+bool SearchedMove(const Game& g, int side, Move& move) {
+    SearchLimits limits;
+    limits.MaxDepth = FallbackDepth;
+    limits.TableMegabytes = 1;
+    const SearchResult r = SearchBestMove(g, side, limits);
+    if (!r.HasMove) return false;
+    move = r.Best;
+    return true;
+}
+
+// A defender move made as the user's drop is made, so that a King reaching a
+// corner wins as the user's King does. The computer does not answer it here:
+// the caller's turn order decides who moves next.
+void DropDefenderMove(Game& g, const Move& m) {
+    const int gameNumber = g.GameNumber;
+    AnimateMove(g, m);
+    // The pause lets the user's clicks in; they may have changed the game.
+    if (g.GameNumber != gameNumber || g.Ending || !IsLegal(g, DefenderCode, m)) return;
+    g.DragSource = Square{m.From.Col, m.From.Row};
+    ShowDragLine(g, m);
+    const bool reply = g.Check1;
+    g.Check1 = false;
+    DropPiece(g, m.To.Col, m.To.Row);
+    g.Check1 = reply;
+    g.DragSource = Square{};
+}
+
 }  // namespace
 
 void MakeRedAutoMove(Game& g) {
@@ -96,7 +157,15 @@ void MakeRedAutoMove(Game& g) {
     ListTiedBest(g);
     const int n = static_cast<int>(g.List3.size());
     const std::string& taken = g.List3[n == 1 ? 0 : DrawOneOf(g, n) - 1];
-    MakeAttackerMove(g, {{TwoDigits(taken, 6), TwoDigits(taken, 8)}, {TwoDigits(taken, 1), TwoDigits(taken, 3)}});
+    Move move{TwoDigits(taken, 6), TwoDigits(taken, 8), TwoDigits(taken, 1), TwoDigits(taken, 3)};
+    if (LegalCandidate(g, AttackerCode, g.List1A, move)) {
+        MakeAttackerMove(g, move);
+    } else if (SearchedMove(g, AttackerCode, move)) {
+        PrintLog(g, "No legal ranked move: searched " + MoveName(g, move), AttackerCode + 1, 0);
+        MakeAttackerMove(g, move);
+    } else {
+        g.View->Show("No move for the Attacker\r\nClick Reset to start another Game", "Vbcritical+vbok");
+    }
     SetBoardEnabled(g, true);
     g.View->SetBusy(false);
 }
@@ -106,13 +175,16 @@ void MakeGreenAutoMove(Game& g) {
     SetBoardEnabled(g, false);
     GetDefenderRank(g, 1);
     Move move;
-    if (g.List1D.empty() || !ReadListMove(g.List1D[0], move)) {
+    const bool ranked = !g.List1D.empty() && ReadListMove(g.List1D[0], move);
+    if (ranked && LegalCandidate(g, DefenderCode, g.List1D, move)) {
+        MakeDefenderMove(g, move);
+    } else if (SearchedMove(g, DefenderCode, move)) {
+        PrintLog(g, std::string(ranked ? "No legal ranked move" : "No ranked move") + ": searched " + MoveName(g, move),
+                 DefenderCode + 1, 0);
+        DropDefenderMove(g, move);
+    } else {
         g.View->Show("No move for the Defender\r\nClick Reset to start another Game", "Vbcritical+vbok");
-        SetBoardEnabled(g, true);
-        g.View->SetBusy(false);
-        return;
     }
-    MakeDefenderMove(g, move);
     SetBoardEnabled(g, true);
     g.View->SetBusy(false);
 }

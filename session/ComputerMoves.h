@@ -7,11 +7,16 @@
 namespace jv {
 
 // The computer's move for the attackers: ranks every attacker move and plays
-// the best, ties drawn at random.
+// the best, ties drawn at random. A drawn move the position does not allow is
+// replaced by the first legal line of List1A, else by the strong player's
+// move, and the event log says so.
 void MakeRedAutoMove(Game& g);
 
 // The computer's move for the defenders: ranks (mode 1) and plays the first
-// line of List1D.
+// line of List1D, or its first legal line when that one is not legal. With
+// no legal line but a move left, the strong player's move at a fixed depth
+// is made as the user's drop is (a King reaching a corner wins), after an
+// event-log line saying why.
 void MakeGreenAutoMove(Game& g);
 
 // Moves one random piece of the side with the given code (debug buttons).

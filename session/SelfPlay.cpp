@@ -29,8 +29,10 @@ AutoGameResult PlayAutoGame(Game& g, int maxMoves) {
         if (KingAtHome(g)) return ended(GameEnd::KingAtHome);
         if (KingHasFreeRun(g)) return ended(GameEnd::KingFreeRun);
         if (result.Moves >= maxMoves) return ended(GameEnd::MoveLimit);
+        // A move is recorded for undo, but for the King's winning move home.
+        const std::size_t records = g.Undo.size();
         MakeGreenAutoMove(g);
-        if (g.List1D.empty()) return ended(GameEnd::DefendersWithoutMove);
+        if (g.Undo.size() == records && KingAtHome(g) != 99) return ended(GameEnd::DefendersWithoutMove);
         ++result.Moves;
 
         if (result.Moves >= maxMoves) return ended(GameEnd::MoveLimit);

@@ -45,13 +45,16 @@ TEST(MakeRedAutoMove, TiedBestMovesAreDrawnFromATimerSeededGenerator) {
     EXPECT_GT(played.size(), 1u);
 }
 
+// The King boxed in by four attackers, no other defender: the defenders truly cannot move.
+const char* const BoxedKing = "07070202" "H1EEEEH" "101EEEE" "E1EEEEE" "EEEEEEE" "EEEEEEE" "EEEEEEE" "HEEEEEH";
+
 TEST(AutoMove, TheBestListedMoveIsPlayedOrTheSideIsToldItHasNone) {
     // The computer plays its best listed move, or says the side has no move and gives the board back.
     const struct { const char* layout; void (*move)(Game&); const char* played; const char* message; } rows[] = {
         {"07070104H0E01EHEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEHEEEEEH", MakeGreenAutoMove, "0102>0103", nullptr},
         {"05050303HE1EHEE0EEE000EEE0EEHEEEH", MakeRedAutoMove, "",
          "No move for the Attacker\r\nClick Reset to start another Game [Vbcritical+vbok]"},
-        {"patf.txt", MakeGreenAutoMove, "", "No move for the Defender\r\nClick Reset to start another Game [Vbcritical+vbok]"},
+        {BoxedKing, MakeGreenAutoMove, "", "No move for the Defender\r\nClick Reset to start another Game [Vbcritical+vbok]"},
     };
     for (const auto& r : rows) {
         TestGame t;
@@ -64,6 +67,27 @@ TEST(AutoMove, TheBestListedMoveIsPlayedOrTheSideIsToldItHasNone) {
         EXPECT_EQ(t.view.Messages(), r.message ? Lines{r.message} : Lines{}) << r.layout;
         EXPECT_TRUE(t.g.BoardEnabled && !t.view.Busy) << r.layout;
     }
+}
+
+TEST(AutoMove, WithoutARankedMoveTheDefendersPlayTheSearchedMoveAndSaySo) {
+    // From the 11x11 opening the defenders' ranking lists no move: the strong player's move to a fixed
+    // depth is made all the same, the log says why and names it, and a second game gets the same move.
+    std::vector<std::string> why;
+    for (int game = 0; game < 2; ++game) {
+        TestGame t;
+        ASSERT_TRUE(LoadPosition(t.g, "patf.txt").Ok());
+        t.g.Check1 = false;
+        MakeGreenAutoMove(t.g);
+        EXPECT_TRUE(t.view.Messages().empty());
+        ASSERT_EQ(t.g.Undo.size(), 1u);
+        const auto said = std::find_if(t.g.EventLog.begin(), t.g.EventLog.end(),
+                                       [](const std::string& l) { return l.starts_with("No ranked move: searched "); });
+        ASSERT_NE(said, t.g.EventLog.end());
+        ASSERT_NE(said + 1, t.g.EventLog.end());
+        EXPECT_NE((said + 1)->find("Move " + said->substr(25)), std::string::npos) << *(said + 1);
+        why.push_back(*said);
+    }
+    EXPECT_EQ(why[0], why[1]);
 }
 
 TEST(RandomMover, PlaysTheSmallestDrawnLineOnTheBoardAsItStands) {
@@ -92,7 +116,7 @@ TEST(PlayAutoGame, EndsOnAFreeRunANoMoveOrTheMoveLimit) {
     const struct { const char* layout; int limit; GameEnd end; int moves; } rows[] = {
         {"07070104HEE0EEHEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEHEEEEEH", 300, GameEnd::KingFreeRun, 0},
         {"07070104H0E01EHEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEHEEEEEH", 1, GameEnd::MoveLimit, 1},
-        {"patf.txt", 300, GameEnd::DefendersWithoutMove, 0},
+        {BoxedKing, 300, GameEnd::DefendersWithoutMove, 0},
     };
     for (const auto& r : rows) {
         TestGame t;

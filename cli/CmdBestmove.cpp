@@ -1,0 +1,83 @@
+#include <iostream>
+
+#include "ai/Search.h"
+#include "cli/CliView.h"
+#include "cli/Commands.h"
+#include "cli/SearchText.h"
+
+namespace jv::cli {
+
+namespace {
+
+const char* const BestmoveUsage =
+    "usage: jarlsvakt-cli bestmove FILE --side attackers|defenders [--ms N | --depth D]\n";
+
+struct BestmoveOptions {
+    std::string File;
+    int Side = -1;
+    SearchLimits Limits;
+};
+
+bool ParseOptions(const Args& args, BestmoveOptions& o) {
+    bool timed = false, deep = false;
+    for (std::size_t i = 0; i < args.size(); ++i) {
+        const std::string& a = args[i];
+        if (a.rfind("--", 0) != 0) {
+            if (!o.File.empty()) return false;
+            o.File = a;
+            continue;
+        }
+        if (i + 1 >= args.size()) return false;
+        const std::string& value = args[++i];
+        long long n = 0;
+        if (a == "--side" && (value == "attackers" || value == "defenders")) {
+            o.Side = value == "attackers" ? AttackerCode : DefenderCode;
+        } else if (a == "--ms" && ReadCount(value, n) && n > 0) {
+            o.Limits.Millis = static_cast<int>(n);
+            timed = true;
+        } else if (a == "--depth" && ReadCount(value, n) && n > 0 && n <= SearchMaxPly / 2) {
+            o.Limits.MaxDepth = static_cast<int>(n);
+            deep = true;
+        } else {
+            return false;
+        }
+    }
+    // Without a limit the search thinks for a second.
+    if (!timed && !deep) o.Limits.Millis = 1000;
+    return !o.File.empty() && o.Side >= 0 && !(timed && deep);
+}
+
+}  // namespace
+
+int RunBestmove(const Args& args) {
+    BestmoveOptions o;
+    if (!ParseOptions(args, o)) {
+        std::cerr << BestmoveUsage;
+        return 1;
+    }
+    CliView view;
+    view.Quiet = true;
+    Game g;
+    PrepareGame(g, view);
+    if (!ReadLayoutArgument(g, o.File)) return 2;
+
+    const SearchResult r = SearchBestMove(g, o.Side, o.Limits, [&g](const SearchProgress& p) {
+        std::cout << "depth " << p.Depth << " score " << p.Score << " nodes " << p.Nodes << " nps "
+                  << static_cast<long long>(p.NodesPerSecond) << " pv " << LineText(g, p.Pv) << '\n';
+    });
+    if (!r.HasMove) {
+        std::cout << "no move\n";
+        return 0;
+    }
+    const double nps = r.Millis > 0 ? r.Nodes / (r.Millis / 1000) : 0;
+    std::cout << "move: " << MoveText(g, r.Best) << '\n'
+              << "score: " << r.Score << '\n'
+              << "depth: " << r.Depth << '\n'
+              << "nodes: " << r.Nodes << '\n'
+              << "nodes per second: " << static_cast<long long>(nps) << '\n'
+              << "time: " << static_cast<long long>(r.Millis) << " ms\n"
+              << "pv: " << LineText(g, r.Pv) << '\n';
+    return 0;
+}
+
+}  // namespace jv::cli
