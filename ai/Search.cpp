@@ -62,14 +62,14 @@ int FromTable(int score, int ply) { return IsWinScore(score) ? score - ply : IsW
 
 class Searcher {
 public:
-    Searcher(const Game& g, int side, const SearchLimits& limits)
+    Searcher(const Position& g, int side, const SearchLimits& limits)
         : board_(g, side), table_(limits.TableMegabytes), limits_(limits),
           history_(2 * SearchCells * SearchCells, 0), start_(Clock::now()),
           deadline_(start_ + std::chrono::milliseconds(limits.Millis)) {
         for (std::uint64_t key : limits.Played) played_[key % played_.size()] = true;
     }
 
-    SearchResult Run(const Game& g, const std::function<void(const SearchProgress&)>& onProgress);
+    SearchResult Run(const std::function<void(const SearchProgress&)>& onProgress);
 
 private:
     int Negamax(int depth, int alpha, int beta, int ply, bool nullAllowed);
@@ -332,10 +332,10 @@ std::vector<Move> Searcher::Pv() const {
     return line;
 }
 
-SearchResult Searcher::Run(const Game& g, const std::function<void(const SearchProgress&)>& onProgress) {
+SearchResult Searcher::Run(const std::function<void(const SearchProgress&)>& onProgress) {
     SearchResult result;
     SearchMove moves[MaxSearchMoves];
-    const int n = board_.Status() == SearchStatus::Playing && !g.GameOver ? board_.Generate(moves) : 0;
+    const int n = board_.Status() == SearchStatus::Playing ? board_.Generate(moves) : 0;
     if (n == 0) return result;
     result.HasMove = true;
     result.Best = ToBoardMove(moves[0]);   // should even the first depth be cut short
@@ -364,12 +364,12 @@ SearchResult Searcher::Run(const Game& g, const std::function<void(const SearchP
 
 }  // namespace
 
-std::uint64_t PositionKey(const Game& g, int side) { return SearchBoard(g, side).Key(); }
+std::uint64_t PositionKey(const Position& g, int side) { return SearchBoard(g, side).Key(); }
 
-SearchResult SearchBestMove(const Game& g, int side, const SearchLimits& limits,
+SearchResult SearchBestMove(const Position& g, int side, const SearchLimits& limits,
                             const std::function<void(const SearchProgress&)>& onProgress) {
     Searcher searcher(g, side, limits);
-    return searcher.Run(g, onProgress);
+    return searcher.Run(onProgress);
 }
 
 }  // namespace jv

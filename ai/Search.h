@@ -47,7 +47,7 @@ struct SearchResult {
 };
 
 // The search's key of the game's position with side to move.
-std::uint64_t PositionKey(const Game& g, int side);
+std::uint64_t PositionKey(const Position& g, int side);
 
 // True when a score says the side to move wins (or loses, negated) by force.
 inline bool IsWinScore(int score) { return score > SearchWin - SearchMaxPly; }
@@ -56,7 +56,7 @@ inline bool IsWinScore(int score) { return score > SearchWin - SearchMaxPly; }
 // position, searched until the depth, the time or the stop is reached;
 // onProgress (when given) hears of every completed depth. The same position,
 // side and depth give the same move every time.
-SearchResult SearchBestMove(const Game& g, int side, const SearchLimits& limits,
+SearchResult SearchBestMove(const Position& g, int side, const SearchLimits& limits,
                             const std::function<void(const SearchProgress&)>& onProgress = {});
 
 }  // namespace jv

@@ -45,7 +45,7 @@ int ListOf(int piece) { return piece == CellAttacker ? 1 : 0; }
 std::uint64_t SearchBoard::PieceKey(int piece, int cell) { return Keys().Piece[piece][cell]; }
 std::uint64_t SearchBoard::SideKey() { return Keys().Side; }
 
-SearchBoard::SearchBoard(const Game& g, int side)
+SearchBoard::SearchBoard(const Position& g, int side)
     : width_(g.BoardWidth), height_(g.BoardHeight), centre_(CellOf(g.CentreCol, g.CentreRow)), side_(side) {
     cells_.fill(CellWall);
     for (int col = 1; col <= width_; ++col)
@@ -289,7 +289,7 @@ bool SearchBoard::Allows(int fromCol, int fromRow, int toCol, int toRow) const {
     return std::find(moves, moves + n, wanted) != moves + n;
 }
 
-bool IsLegalMove(const Game& g, int side, int fromCol, int fromRow, int toCol, int toRow) {
+bool IsLegalMove(const Position& g, int side, int fromCol, int fromRow, int toCol, int toRow) {
     return SearchBoard(g, side).Allows(fromCol, fromRow, toCol, toRow);
 }
 

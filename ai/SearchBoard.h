@@ -46,7 +46,7 @@ struct SearchUndo {
 class SearchBoard {
 public:
     // The game's position with side (AttackerCode or DefenderCode) to move.
-    SearchBoard(const Game& g, int side);
+    SearchBoard(const Position& g, int side);
 
     int SideToMove() const { return side_; }
     std::uint64_t Key() const { return key_; }
@@ -109,6 +109,6 @@ private:
 
 // True when side (AttackerCode or DefenderCode) may make the move in the
 // game's position as it stands, the King's move onto a corner included.
-bool IsLegalMove(const Game& g, int side, int fromCol, int fromRow, int toCol, int toRow);
+bool IsLegalMove(const Position& g, int side, int fromCol, int fromRow, int toCol, int toRow);
 
 }  // namespace jv

@@ -85,7 +85,7 @@ bool PlayMove(Game& g, int side, const Player& p, const std::vector<std::uint64_
     if (!p.Strong) {
         if (side == DefenderCode) MakeGreenAutoMove(g);
         else MakeRedAutoMove(g);
-        if (g.Undo.size() > records || KingAtHome(g) == 99) return true;
+        if (g.Undo.size() > records || KingAtHome(g)) return true;
         // A classic attacker without a ranked move: the random mover stands in, as in the soak.
         RandomMover(g, side);
         return g.Undo.size() > records;
@@ -105,7 +105,7 @@ bool PlayMove(Game& g, int side, const Player& p, const std::vector<std::uint64_
 Outcome PlayGame(Game& g, const MatchOptions& o, int side, LayoutTally& tally) {
     std::vector<std::uint64_t> played;
     for (int moves = 0; moves < MaxGameMoves; ++moves) {
-        if (KingAtHome(g) == 99 || (side == DefenderCode && KingHasFreeRun(g))) return Outcome::DefendersWin;
+        if (KingAtHome(g) || (side == DefenderCode && KingHasFreeRun(g))) return Outcome::DefendersWin;
         if (g.GameOver) return Outcome::AttackersWin;
         const auto started = std::chrono::steady_clock::now();
         played.push_back(PositionKey(g, side));

@@ -75,6 +75,20 @@ struct UserLists {
     std::vector<std::string> AttackerMovesRank, DefenderMovesRank;
     std::vector<std::string> Undo;
     std::vector<std::string> EventLog;
+    std::vector<std::string> SearchLines;   // the strong player's thinking: depth, score, speed, line
+};
+
+// Which computer player plays a side: the classic ranked lists, or the
+// strong player's search.
+enum class PlayerKind { Classic, Strong };
+
+// The players' settings, kept in a settings file of their own beside the
+// configuration file.
+struct PlayerChoice {
+    PlayerKind Attackers = PlayerKind::Classic;
+    PlayerKind Defenders = PlayerKind::Classic;
+    int ThinkMillis = 1000;   // the strong player's thinking time for one move
+    friend bool operator==(const PlayerChoice&, const PlayerChoice&) = default;
 };
 
 // The settings kept in the configuration file, the colour table of the
@@ -89,6 +103,7 @@ struct Settings {
     int ColourMode = 0;
     std::array<std::int32_t, 14> ColourTable{};   // 0..12 from the scheme, 13 from the cfg
     std::array<std::string, 17> ColumnLetters;    // index 1..16: "A".."P"
+    PlayerChoice Players;                         // kept in the players' file
 };
 
 // The session: files, switches, the piece in hand, the game's progress, the
@@ -110,6 +125,7 @@ struct SessionState {
     bool GameOver = false;       // the King has been captured or is at Home
     bool Ending = false;         // the program is ending
     bool AutoGameRunning = false;   // the automatic game is playing; a press of AutoGame stops it
+    bool StopThinking = false;      // the user asked the strong player to stop at once
     std::array<int, 2> TurnCounts{0, 0};
     int LayoutLoadDepth = 0;     // guards LoadLayout's retry of the previous file
     // Counts the boards NewBoard has set up. A move whose pauses let a load

@@ -9,7 +9,7 @@ namespace jv {
 // The lists of the main window that the engine fills and asks to be shown.
 enum class ListId {
     List1A, List2A, List3, List1, List1D, List2D,
-    AttackerMovesRank, DefenderMovesRank, Undo
+    AttackerMovesRank, DefenderMovesRank, Undo, SearchLines
 };
 
 // The buttons of the message box, numbered as Show returns them.

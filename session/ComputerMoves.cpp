@@ -14,6 +14,7 @@
 #include "core/SortedList.h"
 #include "core/VbText.h"
 #include "session/PlayerMoves.h"
+#include "session/StrongTurn.h"
 #include "session/Undo.h"
 
 namespace jv {
@@ -141,9 +142,31 @@ void DropDefenderMove(Game& g, const Move& m) {
     g.DragSource = Square{};
 }
 
+// The strong player's turn: its move, thought over while the window stays
+// live, reaches the board as the classic player's would; a search stopped
+// by the user or by a change of the game makes no move.
+void PlayStrongMove(Game& g, int side) {
+    g.View->SetBusy(true);
+    SetBoardEnabled(g, false);
+    bool stopped = false;
+    const std::optional<Move> move = ThinkStrong(g, side, &stopped);
+    if (move && side == AttackerCode) MakeAttackerMove(g, *move);
+    if (move && side == DefenderCode) DropDefenderMove(g, *move);
+    if (!move && !stopped)
+        g.View->Show(std::string(side == AttackerCode ? "No move for the Attacker" : "No move for the Defender") +
+                         "\r\nClick Reset to start another Game",
+                     "Vbcritical+vbok");
+    SetBoardEnabled(g, true);
+    g.View->SetBusy(false);
+}
+
 }  // namespace
 
 void MakeRedAutoMove(Game& g) {
+    if (g.Players.Attackers == PlayerKind::Strong) {
+        PlayStrongMove(g, AttackerCode);
+        return;
+    }
     g.View->SetBusy(true);
     SetBoardEnabled(g, false);
     GetAttackerRank(g);
@@ -171,6 +194,10 @@ void MakeRedAutoMove(Game& g) {
 }
 
 void MakeGreenAutoMove(Game& g) {
+    if (g.Players.Defenders == PlayerKind::Strong) {
+        PlayStrongMove(g, DefenderCode);
+        return;
+    }
     g.View->SetBusy(true);
     SetBoardEnabled(g, false);
     GetDefenderRank(g, 1);

@@ -32,7 +32,7 @@ AutoGameResult PlayAutoGame(Game& g, int maxMoves) {
         // A move is recorded for undo, but for the King's winning move home.
         const std::size_t records = g.Undo.size();
         MakeGreenAutoMove(g);
-        if (g.Undo.size() == records && KingAtHome(g) != 99) return ended(GameEnd::DefendersWithoutMove);
+        if (g.Undo.size() == records && !KingAtHome(g)) return ended(GameEnd::DefendersWithoutMove);
         ++result.Moves;
 
         if (result.Moves >= maxMoves) return ended(GameEnd::MoveLimit);

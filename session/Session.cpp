@@ -9,6 +9,7 @@
 #include "records/ProgramFolder.h"
 #include "records/TextFile.h"
 #include "session/ComputerMoves.h"
+#include "session/StrongTurn.h"
 #include "session/LayoutCommands.h"
 
 namespace jv {
@@ -39,6 +40,7 @@ bool StartUp(Game& g, const std::function<void()>& applySettings) {
     BuildColumnLetters(g);
     g.SchemeFile = "xp.col";
     ReadConfiguration(g, ConfigurationFile);
+    ReadPlayers(g);
     LoadColourScheme(g, g.SchemeFile);
     if (applySettings) applySettings();
 
@@ -54,6 +56,7 @@ void AutoGame(Game& g) {
     // A press while it runs is the user's stop.
     if (g.AutoGameRunning) {
         g.AutoGameRunning = false;
+        g.StopThinking = true;
         return;
     }
     // Runs on after a game has ended: only the user's stop or the program's

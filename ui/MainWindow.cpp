@@ -38,6 +38,7 @@ bool MainWindow::Start() {
     const bool ok = StartUp(game_, [this] { ApplyWindowColours(); });
     if (!ok) return false;
     SyncChecks();
+    ShowPlayers();
     DrawBoard();
     return true;
 }

@@ -95,6 +95,10 @@ private:
     QWidget* BuildDebugPanel();
     void BuildMenus();
     QListWidget* AddList(ListId id, const char* name);
+    // The computer player of each side, the strong player's thinking time and
+    // the hint.
+    QWidget* BuildPlayerChoice();
+    void ShowPlayers();
     QPushButton* AddButton(const char* name, const QString& caption, const QString& toolTip);
 
     // The commands (MainWindowCommands.cpp).

@@ -2,6 +2,7 @@
 // its command to the game.
 #include <QAction>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QEvent>
 #include <QListWidget>
 #include <QMouseEvent>
@@ -21,6 +22,7 @@
 #include "session/LayoutEditor.h"
 #include "session/Recording.h"
 #include "session/Session.h"
+#include "session/StrongTurn.h"
 #include "session/Undo.h"
 #include "ui/BoardPicture.h"
 #include "ui/EditorPalette.h"
@@ -63,8 +65,19 @@ void MainWindow::ConnectCommands() {
     connect(lists_.at(ListId::Undo), &QListWidget::itemClicked, this, [this](QListWidgetItem* item) {
         Undo_MouseUp(game_, lists_.at(ListId::Undo)->row(item));
     });
-    for (ListId id : {ListId::List1A, ListId::List1D})
+    for (ListId id : {ListId::List1A, ListId::List1D, ListId::SearchLines})
         connect(lists_.at(id), &QListWidget::pressed, this, [this, id] { PreviewListMove(id); });
+    onClick("cmdhint", [this] { HintCommand(game_); });
+    const auto choosePlayers = [this] {
+        game_.Players.Attackers = findChild<QComboBox*>("AttackerPlayer")->currentIndex() == 1 ? PlayerKind::Strong
+                                                                                               : PlayerKind::Classic;
+        game_.Players.Defenders = findChild<QComboBox*>("DefenderPlayer")->currentIndex() == 1 ? PlayerKind::Strong
+                                                                                               : PlayerKind::Classic;
+        game_.Players.ThinkMillis = findChild<QComboBox*>("ThinkingTime")->currentData().toInt();
+        WritePlayers(game_);
+    };
+    for (const char* name : {"AttackerPlayer", "DefenderPlayer", "ThinkingTime"})
+        connect(findChild<QComboBox*>(name), &QComboBox::activated, this, choosePlayers);
     connect(picture_, &BoardPicture::EditorSquarePressed, this, &MainWindow::PlaceInEditor);
     ConnectDebugButtons();
 }
@@ -99,9 +112,20 @@ std::string KingCaptureDiagnostic(Game& g) {
 }
 
 void MainWindow::PreviewListMove(ListId id) {
-    const std::vector<std::string>& lines = id == ListId::List1A ? game_.List1A : game_.List1D;
     previewing_ = true;
+    if (id == ListId::SearchLines) {
+        PreviewSearchLine(game_, lists_.at(id)->currentRow());
+        return;
+    }
+    const std::vector<std::string>& lines = id == ListId::List1A ? game_.List1A : game_.List1D;
     jv::PreviewListMove(game_, lines, lists_.at(id)->currentRow());
+}
+
+void MainWindow::ShowPlayers() {
+    findChild<QComboBox*>("AttackerPlayer")->setCurrentIndex(game_.Players.Attackers == PlayerKind::Strong);
+    findChild<QComboBox*>("DefenderPlayer")->setCurrentIndex(game_.Players.Defenders == PlayerKind::Strong);
+    auto* time = findChild<QComboBox*>("ThinkingTime");
+    time->setCurrentIndex(std::max(0, time->findData(game_.Players.ThinkMillis)));
 }
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {

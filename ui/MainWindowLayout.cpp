@@ -4,6 +4,7 @@
 // buttons in a panel below that the View menu shows or hides.
 #include <QAction>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QFontDatabase>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -18,6 +19,7 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include "records/PlayerSettings.h"
 #include "ui/BoardPicture.h"
 #include "ui/EditorPalette.h"
 #include "ui/MainWindow.h"
@@ -122,6 +124,7 @@ QWidget* MainWindow::BuildCommandColumn() {
     playLayout->addWidget(check1_);
     playLayout->addWidget(check2_);
     playLayout->addWidget(AddButton("Command12", "AutoGame", "The computer plays both sides, defenders first"));
+    playLayout->addWidget(BuildPlayerChoice());
     layout->addWidget(play);
 
     auto* status = new QGroupBox("Position");
@@ -157,6 +160,30 @@ QWidget* MainWindow::BuildCommandColumn() {
 
     layout->addWidget(AddButton("cmdexit", "Exit", "Save the options and leave JarlsVakt"));
     return column;
+}
+
+QWidget* MainWindow::BuildPlayerChoice() {
+    auto* choice = new QWidget;
+    auto* grid = new QGridLayout(choice);
+    grid->setContentsMargins(0, 0, 0, 0);
+    const std::pair<const char*, const char*> sides[] = {{"AttackerPlayer", "Attackers:"},
+                                                         {"DefenderPlayer", "Defenders:"}};
+    for (int i = 0; i < 2; ++i) {
+        auto* box = new QComboBox;
+        box->setObjectName(sides[i].first);
+        box->addItems({"Classic", "Strong"});
+        box->setToolTip("Classic: the ranked lists. Strong: a search of the moves ahead");
+        grid->addWidget(new QLabel(sides[i].second), i, 0);
+        grid->addWidget(box, i, 1);
+    }
+    auto* time = new QComboBox;
+    time->setObjectName("ThinkingTime");
+    for (int millis : ThinkingTimes) time->addItem(QString::number(millis / 1000.0) + " s", millis);
+    time->setToolTip("How long the strong player thinks about a move");
+    grid->addWidget(new QLabel("Thinking:"), 2, 0);
+    grid->addWidget(time, 2, 1);
+    grid->addWidget(AddButton("cmdhint", "Hint", "The strong player's move for you, shown on the board"), 3, 0, 1, 2);
+    return choice;
 }
 
 QWidget* MainWindow::BuildBoardArea() {
@@ -205,7 +232,12 @@ QWidget* MainWindow::BuildListsColumn() {
                         Captioned("Candidates", AddList(ListId::List2D, "List2D"))}),
                  "Defenders");
     tabs->addTab(Captioned("Random mover (draw from>to)", AddList(ListId::List1, "List1")), "Random");
-    for (ListId id : {ListId::List1A, ListId::List1D}) lists_[id]->viewport()->installEventFilter(this);
+    tabs->addTab(Captioned("Depth, score (defenders' view, in pieces), million nodes a second, expected line",
+                           AddList(ListId::SearchLines, "SearchLines"),
+                           "The strong player's thinking, deepest first: press a line to see its first move"),
+                 "Strong");
+    for (ListId id : {ListId::List1A, ListId::List1D, ListId::SearchLines})
+        lists_[id]->viewport()->installEventFilter(this);
 
     QSplitter* column = Stack({Captioned("Event log", eventLog_), tabs});
     column->setSizes({360, 440});

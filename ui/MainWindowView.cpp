@@ -121,6 +121,7 @@ void MainWindow::RefreshList(ListId id) {
         case ListId::AttackerMovesRank: lines = &game_.AttackerMovesRank; break;
         case ListId::DefenderMovesRank: lines = &game_.DefenderMovesRank; break;
         case ListId::Undo: lines = &game_.Undo; break;
+        case ListId::SearchLines: lines = &game_.SearchLines; break;
     }
     QStringList shown;
     shown.reserve(static_cast<qsizetype>(lines->size()));

@@ -57,7 +57,7 @@ Game SlowMove(const Game& g, const Move& m, int side) {
 
 std::uint64_t SlowCount(Game& g, int depth, int side) {
     if (depth == 0) return 1;
-    if (GameFinished(g) || KingAtHome(g) == 99) return 0;
+    if (GameFinished(g) || KingAtHome(g)) return 0;
     const std::vector<Move> moves = SlowMoves(g, side);
     if (depth == 1) return moves.size();
     std::uint64_t total = 0;

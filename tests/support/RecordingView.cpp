@@ -9,7 +9,7 @@ std::string Join(std::initializer_list<int> numbers) {
     return out;
 }
 const char* const ListNames[] = {"List1A", "List2A", "List3", "List1", "List1D", "List2D", "AttackerMovesRank",
-                                 "DefenderMovesRank", "Undo"};
+                                 "DefenderMovesRank", "Undo", "SearchLines"};
 }  // namespace
 
 std::vector<std::string> RecordingView::Messages() const {

@@ -1,0 +1,118 @@
+#include "session/StrongTurn.h"
+
+#include <atomic>
+#include <chrono>
+#include <cstdio>
+#include <future>
+#include <mutex>
+#include <sstream>
+
+#include "ai/Search.h"
+#include "core/Board.h"
+#include "core/EventLog.h"
+#include "core/GameView.h"
+#include "core/Move.h"
+#include "records/Notation.h"
+#include "records/PlayerSettings.h"
+#include "records/PositionRecord.h"
+#include "records/TextFile.h"
+
+namespace jv {
+
+namespace {
+
+// How often the waiting game lets the window's events run.
+constexpr auto EventInterval = std::chrono::milliseconds(25);
+
+std::string ProgressLine(int boardWidth, const SearchProgress& p) {
+    char head[96];
+    std::snprintf(head, sizeof head, "%2d %+8.2f %6.2fM/s ", p.Depth, p.Score / 100.0, p.NodesPerSecond / 1e6);
+    std::string line = head;
+    for (const Move& m : p.Pv)
+        line += " " + StandardSquareName(boardWidth, m.From.Col, m.From.Row) + "-" +
+                StandardSquareName(boardWidth, m.To.Col, m.To.Row);
+    return line;
+}
+
+// The search's reports, handed from the worker thread to the game's own.
+struct ProgressMailbox {
+    std::mutex Lock;
+    std::vector<std::string> Lines;
+    bool Fresh = false;
+};
+
+}  // namespace
+
+std::optional<Move> ThinkStrong(Game& g, int side, bool* stopped) {
+    if (g.GameOver) return std::nullopt;
+    const int gameNumber = g.GameNumber;
+    const std::string position = EncodePosition(g);
+    const auto gameChanged = [&] {
+        return g.Ending || g.StopThinking || g.GameNumber != gameNumber || EncodePosition(g) != position;
+    };
+    g.StopThinking = false;
+    g.SearchLines.clear();
+    g.View->RefreshList(ListId::SearchLines);
+
+    std::atomic<bool> stop{false};
+    SearchLimits limits;
+    limits.Millis = g.Players.ThinkMillis;
+    limits.Stop = &stop;
+    ProgressMailbox mailbox;
+    const Position copy = g;   // the worker reads its own copy, never the shared game
+    auto search = std::async(std::launch::async, [&] {
+        return SearchBestMove(copy, side, limits, [&](const SearchProgress& p) {
+            const std::lock_guard<std::mutex> hold(mailbox.Lock);
+            mailbox.Lines.insert(mailbox.Lines.begin(), ProgressLine(copy.BoardWidth, p));
+            mailbox.Fresh = true;
+        });
+    });
+
+    g.View->SetBusy(true);
+    // The events run at least once, so a click that came with the turn is
+    // seen before the move is made.
+    do {
+        g.View->DoEvents();
+        if (gameChanged()) stop = true;
+        const std::lock_guard<std::mutex> hold(mailbox.Lock);
+        if (!mailbox.Fresh) continue;
+        g.SearchLines = mailbox.Lines;
+        mailbox.Fresh = false;
+        g.View->RefreshList(ListId::SearchLines);
+    } while (search.wait_for(EventInterval) != std::future_status::ready);
+    const SearchResult result = search.get();
+    g.SearchLines = mailbox.Lines;
+    g.View->RefreshList(ListId::SearchLines);
+    g.View->SetBusy(false);
+    if (stopped) *stopped = gameChanged();
+    if (gameChanged() || !result.HasMove) return std::nullopt;
+    return result.Best;
+}
+
+void HintCommand(Game& g) {
+    if (g.EditorOn || g.GameOver) return;
+    const std::optional<Move> hint = ThinkStrong(g, DefenderCode);
+    if (!hint) return;
+    PrintLog(g, "Hint: " + SquareName(g, hint->From.Col, hint->From.Row) + " > " +
+                    SquareName(g, hint->To.Col, hint->To.Row), 1, 0);
+    g.View->ShowDragLine(*hint);
+}
+
+void PreviewSearchLine(Game& g, int index) {
+    if (index < 0 || index >= static_cast<int>(g.SearchLines.size())) return;
+    std::istringstream words(g.SearchLines[static_cast<std::size_t>(index)]);
+    std::string depth, score, speed, first;
+    Move move;
+    if (words >> depth >> score >> speed >> first && ReadStandardMove(g, first, move)) ShowDragLine(g, move);
+}
+
+void ReadPlayers(Game& g) {
+    std::string text;
+    if (ReadWholeFile(InProgramFolder(g, PlayersFile), text)) (void)ReadPlayersText(g.Players, text);
+}
+
+bool WritePlayers(const Game& g) {
+    return WriteFileAtomically(InProgramFolder(g, PlayersFile), PlayersText(g.Players));
+}
+
+}  // namespace jv

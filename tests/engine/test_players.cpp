@@ -1,0 +1,50 @@
+// The computer player of each side: the players' settings file, and the strong player in the game.
+#include <gtest/gtest.h>
+
+#include "core/Board.h"
+#include "records/LayoutFile.h"
+#include "records/PlayerSettings.h"
+#include "session/ComputerMoves.h"
+#include "support/Fixtures.h"
+
+using namespace jv;
+using jv::test::TestGame;
+
+TEST(PlayerSettings, ReadsItsThreeSettingsOrRefusesTheTextWhole) {
+    // Each line names a side's player or the thinking time; any other line refuses the text and
+    // leaves the choice as it was; what is written reads back the same.
+    const PlayerChoice strong{PlayerKind::Strong, PlayerKind::Classic, 3000};
+    const struct { const char* text; bool ok; PlayerChoice after; } rows[] = {
+        {"attackers strong\r\ndefenders classic\r\nthink 3000\r\n", true, strong},
+        {"think 3000\nattackers strong\n\n", true, strong},
+        {"attackers strong\nthink 2500\n", false, {}},
+        {"attackers strongest\n", false, {}},
+        {"defenders classic extra\n", false, {}},
+        {"", true, {}},
+    };
+    for (const auto& r : rows) {
+        PlayerChoice players;
+        EXPECT_EQ(ReadPlayersText(players, r.text).Ok(), r.ok) << r.text;
+        EXPECT_EQ(players, r.after) << r.text;
+        PlayerChoice again;
+        ASSERT_TRUE(ReadPlayersText(again, PlayersText(players)).Ok());
+        EXPECT_EQ(again, players);
+    }
+}
+
+TEST(StrongPlayer, PlaysItsSideAndStopsWhenTheGameChangesUnderIt) {
+    // With the strong player on the attackers' side, the computer's move takes the King when one move
+    // does; a move of the user's made while it thinks stops it, and it makes no move then.
+    const char* const takeable = "07070404" "HEEEEEH" "EEEEEEE" "EEE1EEE" "EE10E1E" "EEE1EEE" "EEEEEEE" "HEEEEEH";
+    for (bool interrupted : {false, true}) {
+        TestGame t;
+        ASSERT_TRUE(ApplyLayoutLine(t.g, takeable).Ok());
+        t.g.Players = {PlayerKind::Strong, PlayerKind::Classic, 200};
+        if (interrupted) t.view.OnEvents = [&] { t.g.Board(1, 2) = AttackerCode; };
+        MakeRedAutoMove(t.g);
+        EXPECT_EQ(t.g.GameOver, !interrupted) << interrupted;
+        EXPECT_EQ(t.g.Undo.size(), interrupted ? 0u : 1u) << interrupted;
+        EXPECT_EQ(t.g.SearchLines.empty(), interrupted);
+        if (interrupted) EXPECT_TRUE(t.view.Messages().empty());
+    }
+}
