@@ -88,6 +88,7 @@ struct PlayerChoice {
     PlayerKind Attackers = PlayerKind::Classic;
     PlayerKind Defenders = PlayerKind::Classic;
     int ThinkMillis = 1000;   // the strong player's thinking time for one move
+    int UserSide = DefenderCode;   // the side the user's pointer plays; the computer answers with the other
     friend bool operator==(const PlayerChoice&, const PlayerChoice&) = default;
 };
 

@@ -23,6 +23,12 @@ bool ReadThinkingTime(const std::string& value, int& millis) {
     return false;
 }
 
+bool ReadSide(const std::string& value, int& side) {
+    if (value != "defenders" && value != "attackers") return false;
+    side = value == "attackers" ? AttackerCode : DefenderCode;
+    return true;
+}
+
 std::string KindWord(PlayerKind kind) { return kind == PlayerKind::Strong ? "strong" : "classic"; }
 
 }  // namespace
@@ -37,7 +43,8 @@ ReadResult ReadPlayersText(PlayerChoice& players, std::string_view text) {
         const bool taken = !(words >> extra) &&
                            ((name == "attackers" && ReadKind(value, read.Attackers)) ||
                             (name == "defenders" && ReadKind(value, read.Defenders)) ||
-                            (name == "think" && ReadThinkingTime(value, read.ThinkMillis)));
+                            (name == "think" && ReadThinkingTime(value, read.ThinkMillis)) ||
+                            (name == "user" && ReadSide(value, read.UserSide)));
         if (!taken) return ReadResult::Refused("line \"" + line + "\" is no setting of the players");
     }
     players = read;
@@ -46,7 +53,8 @@ ReadResult ReadPlayersText(PlayerChoice& players, std::string_view text) {
 
 std::string PlayersText(const PlayerChoice& players) {
     return "attackers " + KindWord(players.Attackers) + "\r\ndefenders " + KindWord(players.Defenders) +
-           "\r\nthink " + std::to_string(players.ThinkMillis) + "\r\n";
+           "\r\nthink " + std::to_string(players.ThinkMillis) + "\r\nuser " +
+           (players.UserSide == AttackerCode ? "attackers" : "defenders") + "\r\n";
 }
 
 const char* PlayerName(PlayerKind kind) { return kind == PlayerKind::Strong ? "Strong" : "Classic"; }

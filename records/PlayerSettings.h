@@ -9,7 +9,8 @@ namespace jv {
 
 // The players' settings file, "players.cfg" beside the configuration file:
 // one "name value" line each, "attackers classic|strong",
-// "defenders classic|strong" and "think 200|1000|3000|10000" (milliseconds).
+// "defenders classic|strong", "think 200|1000|3000|10000" (milliseconds) and
+// "user defenders|attackers" (the side the user plays).
 
 inline constexpr const char* PlayersFile = "players.cfg";
 

@@ -112,8 +112,15 @@ void DropPiece(Game& g, int col, int row) {
         return;
     }
 
+    const int mover = g.Board(source.Col, source.Row);
     RecordMove(g);
     MoveAndMark(g, {{source.Col, source.Row}, {col, row}});
+    if (mover == AttackerCode && CheckKingCapture(g)) {
+        // As for the computer's attackers: the King's capture is the whole move.
+        HideDragLine(g);
+        EndGame(g, "King Captured !", "vbcritical+vbok");
+        return;
+    }
     if (KingAtHome(g)) {
         HideDragLine(g);
         EndGame(g, "King at Home !", "vbhappy+vbok");
@@ -125,7 +132,9 @@ void DropPiece(Game& g, int col, int row) {
     if (!GameGoesOn(g, gameNumber)) return;
     AnalysePosition(g);
     HideDragLine(g);
-    if (g.Check1) MakeRedAutoMove(g);
+    if (!g.Check1) return;
+    if (mover == AttackerCode) MakeGreenAutoMove(g);
+    else MakeRedAutoMove(g);
 }
 
 }  // namespace jv

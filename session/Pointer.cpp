@@ -57,7 +57,7 @@ std::string PieceTargets(const Game& g, int col, int row) {
 }
 
 bool CanStartDrag(const Game& g, int col, int row) {
-    return g.BoardEnabled && InPlay(g, col, row) && g.Board(col, row) == DefenderCode;
+    return g.BoardEnabled && InPlay(g, col, row) && g.Board(col, row) == g.Players.UserSide;
 }
 
 bool BeginDrag(Game& g, int col, int row) {

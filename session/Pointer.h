@@ -5,8 +5,9 @@
 
 namespace jv {
 
-// The board's pointer rules. The user plays the defenders and the King, and
-// only legal moves: a drag starts on a defender or the King while the board
+// The board's pointer rules. The user plays one side (the defenders and the
+// King unless the players' settings say the attackers), and only legal
+// moves: a drag starts on a piece of that side while the board
 // takes input; a drop is accepted on a square of the piece's MoveTargets, and
 // for the King also on a Home corner at the end of a free straight line.
 

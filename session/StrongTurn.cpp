@@ -91,7 +91,7 @@ std::optional<Move> ThinkStrong(Game& g, int side, bool* stopped) {
 
 void HintCommand(Game& g) {
     if (g.EditorOn || g.GameOver) return;
-    const std::optional<Move> hint = ThinkStrong(g, DefenderCode);
+    const std::optional<Move> hint = ThinkStrong(g, g.Players.UserSide);
     if (!hint) return;
     PrintLog(g, "Hint: " + SquareName(g, hint->From.Col, hint->From.Row) + " > " +
                     SquareName(g, hint->To.Col, hint->To.Row), 1, 0);

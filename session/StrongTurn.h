@@ -15,7 +15,7 @@ namespace jv {
 // the search was stopped (then stopped is set).
 std::optional<Move> ThinkStrong(Game& g, int side, bool* stopped = nullptr);
 
-// The strong player's move for the side the user plays (the defenders),
+// The strong player's move for the side the user plays,
 // shown as a preview the user may follow or ignore, and named in the log.
 void HintCommand(Game& g);
 

@@ -74,9 +74,10 @@ void MainWindow::ConnectCommands() {
         game_.Players.Defenders = findChild<QComboBox*>("DefenderPlayer")->currentIndex() == 1 ? PlayerKind::Strong
                                                                                                : PlayerKind::Classic;
         game_.Players.ThinkMillis = findChild<QComboBox*>("ThinkingTime")->currentData().toInt();
+        game_.Players.UserSide = findChild<QComboBox*>("UserSide")->currentIndex() == 1 ? AttackerCode : DefenderCode;
         WritePlayers(game_);
     };
-    for (const char* name : {"AttackerPlayer", "DefenderPlayer", "ThinkingTime"})
+    for (const char* name : {"AttackerPlayer", "DefenderPlayer", "ThinkingTime", "UserSide"})
         connect(findChild<QComboBox*>(name), &QComboBox::activated, this, choosePlayers);
     connect(picture_, &BoardPicture::EditorSquarePressed, this, &MainWindow::PlaceInEditor);
     ConnectDebugButtons();
@@ -126,6 +127,7 @@ void MainWindow::ShowPlayers() {
     findChild<QComboBox*>("DefenderPlayer")->setCurrentIndex(game_.Players.Defenders == PlayerKind::Strong);
     auto* time = findChild<QComboBox*>("ThinkingTime");
     time->setCurrentIndex(std::max(0, time->findData(game_.Players.ThinkMillis)));
+    findChild<QComboBox*>("UserSide")->setCurrentIndex(game_.Players.UserSide == AttackerCode);
 }
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {

@@ -182,7 +182,13 @@ QWidget* MainWindow::BuildPlayerChoice() {
     time->setToolTip("How long the strong player thinks about a move");
     grid->addWidget(new QLabel("Thinking:"), 2, 0);
     grid->addWidget(time, 2, 1);
-    grid->addWidget(AddButton("cmdhint", "Hint", "The strong player's move for you, shown on the board"), 3, 0, 1, 2);
+    auto* user = new QComboBox;
+    user->setObjectName("UserSide");
+    user->addItems({"Defenders", "Attackers"});
+    user->setToolTip("The side you move on the board; the computer answers with the other");
+    grid->addWidget(new QLabel("You play:"), 3, 0);
+    grid->addWidget(user, 3, 1);
+    grid->addWidget(AddButton("cmdhint", "Hint", "The strong player's move for you, shown on the board"), 4, 0, 1, 2);
     return choice;
 }
 

@@ -5,6 +5,7 @@
 #include "records/LayoutFile.h"
 #include "records/PlayerSettings.h"
 #include "session/ComputerMoves.h"
+#include "session/Pointer.h"
 #include "support/Fixtures.h"
 
 using namespace jv;
@@ -16,6 +17,8 @@ TEST(PlayerSettings, ReadsItsThreeSettingsOrRefusesTheTextWhole) {
     const PlayerChoice strong{PlayerKind::Strong, PlayerKind::Classic, 3000};
     const struct { const char* text; bool ok; PlayerChoice after; } rows[] = {
         {"attackers strong\r\ndefenders classic\r\nthink 3000\r\n", true, strong},
+        {"user attackers\n", true, {PlayerKind::Classic, PlayerKind::Classic, 1000, AttackerCode}},
+        {"user King\n", false, {}},
         {"think 3000\nattackers strong\n\n", true, strong},
         {"attackers strong\nthink 2500\n", false, {}},
         {"attackers strongest\n", false, {}},
@@ -47,4 +50,24 @@ TEST(StrongPlayer, PlaysItsSideAndStopsWhenTheGameChangesUnderIt) {
         EXPECT_EQ(t.g.SearchLines.empty(), interrupted);
         if (interrupted) EXPECT_TRUE(t.view.Messages().empty());
     }
+}
+
+TEST(UserSide, TheUserMayPlayTheAttackersAndTheComputerAnswersWithTheDefenders) {
+    // Playing the attackers, the user drags attackers only; a drop that surrounds the King takes him,
+    // and any other drop is answered by the defenders.
+    const char* const takeable = "07070404" "HEEEEEH" "EEEEEEE" "EEE1EEE" "EE10E1E" "EEE1EEE" "EEEEEEE" "HEEEEEH";
+    TestGame t;
+    ASSERT_TRUE(ApplyLayoutLine(t.g, takeable).Ok());
+    t.g.Players.UserSide = AttackerCode;
+    EXPECT_FALSE(BeginDrag(t.g, 4, 4));   // the King is not the user's
+    ASSERT_TRUE(BeginDrag(t.g, 4, 6) && EndDrag(t.g, 4, 5));
+    EXPECT_TRUE(t.g.GameOver);
+    EXPECT_EQ(t.view.Messages(), std::vector<std::string>{"King Captured !\r\nClick Reset to start a new game [vbcritical+vbok]"});
+
+    TestGame u;
+    ASSERT_TRUE(ApplyLayoutLine(u.g, takeable).Ok());
+    u.g.Players.UserSide = AttackerCode;
+    ASSERT_TRUE(BeginDrag(u.g, 4, 6) && EndDrag(u.g, 4, 7));
+    EXPECT_FALSE(u.g.GameOver);
+    EXPECT_EQ(u.g.Undo.size(), 2u);   // the user's move and the defenders' answer
 }
