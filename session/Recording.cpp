@@ -24,8 +24,13 @@ ClockReading SystemClock() {
     return ClockReading{local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min};
 }
 
-// Steps through the logged positions at the board size of the first line,
-// asking after each one. True when the player stopped on a position.
+}  // namespace
+
+std::string MovesLogFileName(const ClockReading& now) {
+    return "moveslogfile" + Format(now.Month, "00") + Format(now.Day, "00") + Format(now.Hour, "00") +
+           Format(now.Minute, "00") + ".txt";
+}
+
 bool StepThroughLog(Game& g, const std::vector<std::string>& lines) {
     const long long n = static_cast<long long>(lines.size());
     for (long long k = 1; k <= n; ++k) {
@@ -36,13 +41,6 @@ bool StepThroughLog(Game& g, const std::vector<std::string>& lines) {
         if (answer == ButtonCancel) break;
     }
     return false;
-}
-
-}  // namespace
-
-std::string MovesLogFileName(const ClockReading& now) {
-    return "moveslogfile" + Format(now.Month, "00") + Format(now.Day, "00") + Format(now.Hour, "00") +
-           Format(now.Minute, "00") + ".txt";
 }
 
 void RecordingSwitch(Game& g, bool ticked) {
