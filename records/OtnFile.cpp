@@ -24,7 +24,7 @@ bool IsOtnFileName(const std::string& name) { return EndsWith(name, ".otn"); }
 bool IsOtnGameFileName(const std::string& name) { return EndsWith(name, ".otg"); }
 
 bool WriteOtnFile(const Game& g, const std::string& path) {
-    return WriteFileAtomically(path, OtnPosition(g) + "\r\n");
+    return g.BoardWidth == g.BoardHeight && WriteFileAtomically(path, OtnPosition(g) + "\r\n");
 }
 
 }  // namespace jv

@@ -19,7 +19,8 @@ bool IsOtnFileName(const std::string& name);
 bool IsOtnGameFileName(const std::string& name);
 
 // Writes the OTN of the board and CR LF, replacing the file through a
-// temporary file. False when it cannot be written.
+// temporary file. False when it cannot be written, or the board is not
+// square (an OpenTafl board is).
 bool WriteOtnFile(const Game& g, const std::string& path);
 
 }  // namespace jv

@@ -20,7 +20,6 @@ namespace jv {
 
 namespace {
 
-
 // The opening shipped with the program, the last resort of a failed load.
 const std::string ShippedOpening = "patf.txt";
 
@@ -105,6 +104,20 @@ void ReportUnreadableLayout(Game& g, const std::string& path, const std::string&
     LoadEmptyBoard(g, path);
 }
 
+// Starts a game on a position read from an OpenTafl file: it becomes the
+// layout file "otnlayout.txt", which LoadLayout then loads. False when it
+// could not be (reported).
+bool LoadOtnLayoutLine(Game& g, const std::string& layout) {
+    const std::string path = g.ProgramFolder + "otnlayout.txt";
+    if (!WriteFileAtomically(path, layout + "\r\n")) {
+        g.View->Show("Layout File:\r\n" + path + "\r\ncould not be written, the position is not loaded",
+                     "vbcritical+vbok");
+        return false;
+    }
+    LoadLayout(g, path);
+    return g.LayoutFile == path;   // a failure is reported by LoadLayout
+}
+
 }  // namespace
 
 bool LoadLayout(Game& g, const std::string& path) {
@@ -122,24 +135,6 @@ bool LoadLayout(Game& g, const std::string& path) {
     EnablePlay(g);
     return true;
 }
-
-namespace {
-
-// Starts a game on a position read from an OpenTafl file: it becomes the
-// layout file "otnlayout.txt", which LoadLayout then loads. False when it
-// could not be (reported).
-bool LoadOtnLayoutLine(Game& g, const std::string& layout) {
-    const std::string path = g.ProgramFolder + "otnlayout.txt";
-    if (!WriteFileAtomically(path, layout + "\r\n")) {
-        g.View->Show("Layout File:\r\n" + path + "\r\ncould not be written, the position is not loaded",
-                     "vbcritical+vbok");
-        return false;
-    }
-    LoadLayout(g, path);
-    return g.LayoutFile == path;   // a failure is reported by LoadLayout
-}
-
-}  // namespace
 
 bool LoadOtnFile(Game& g, const std::string& name) {
     std::string otn, layout, reason;

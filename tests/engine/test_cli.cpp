@@ -40,6 +40,7 @@ TEST(Cli, EachCommandPrintsItsResultOrRefusesWithItsExitCode) {
         {"from-otn /3/1T1/3/ '" + t.Path("noking.txt") + "'", "", 2, {}, "Not an OpenTafl position JarlsVakt can play: the position has no King\n"},
         {"from-otn /1tK1t2/2t1T2/7/7/7/7/7/ king.txt", "", 0, {"07070703HEEEEEHEEEEEEEEEEEEEEEEEEEEEEEEEEEEEE1E0EEH10E1EH"}, ""},
         {"otn king.txt", "", 0, {"/1tK1t2/2t1T2/7/7/7/7/7/"}, ""},
+        {"otn -", "03050202HEEEH00EEEHEE1H\n", 2, {}, "An OpenTafl board is square: this layout is 3x5\n"},
         {"record game.txt", "", 0, {"[rules:dim:5 esc:c surf:n atkf:y tfr:i ka:y ks:y cenh: cenhe: start:/5/5/2K2/1t3/5/]", "",
           "1. b4-d4 Kc3-c2"}, ""},
         {"record bad.txt", "", 2, {}, "Moves Log File:\nbad.txt\nline 3: the attackers move twice in a row, where a record has "
