@@ -72,7 +72,8 @@ bool UserMove(Game& g, const Move& s) {
 }
 
 // The move a step names, checked against the rules before anything is made:
-// "" when they allow it, else the reason.
+// false when it names no move of the board, or with the reason the rules
+// give.
 bool ReadStepMove(const Game& g, const Step& step, Move& s, std::string& reason) {
     WrittenMove w;
     w.Squares = step.Squares;
@@ -85,14 +86,13 @@ bool ReadStepMove(const Game& g, const Step& step, Move& s, std::string& reason)
 
 // Applies one step; false, with the reason when there is one, when it was refused.
 bool Apply(Game& g, const Step& step, std::string& reason) {
+    Move s;
     if (step.Kind == "red") MakeRedAutoMove(g);
     else if (step.Kind == "green") MakeGreenAutoMove(g);
     else if (step.Kind == "undo") UndoCommand(g);
-    if (step.Kind == "red" || step.Kind == "green" || step.Kind == "undo") return true;
-    Move s;
-    if (!ReadStepMove(g, step, s, reason)) return false;
-    if (step.Kind == "user") return UserMove(g, s);
-    if (step.Kind == "attacker") MakeAttackerMove(g, s);
+    else if (!ReadStepMove(g, step, s, reason)) return false;
+    else if (step.Kind == "user") return UserMove(g, s);
+    else if (step.Kind == "attacker") MakeAttackerMove(g, s);
     else MakeDefenderMove(g, s);
     return true;
 }
