@@ -7,9 +7,19 @@
 
 namespace jv::cli {
 
-// The OpenTafl position of a layout.
+// The OpenTafl position of a layout; an OpenTafl board is square, so a
+// layout of another shape is refused.
 int RunOtn(const Args& args) {
-    return RunOnLayoutArgument(args, "otn FILE|-", [](Game& g) { std::cout << OtnPosition(g) << '\n'; });
+    if (!HasArguments(args, 1, "otn FILE|-")) return 1;
+    CommandGame game;
+    const Game& g = game.g;
+    if (!ReadLayoutArgument(game.g, args[0])) return 2;
+    if (g.BoardWidth != g.BoardHeight) {
+        std::cerr << "An OpenTafl board is square: this layout is " << g.BoardWidth << "x" << g.BoardHeight << '\n';
+        return 2;
+    }
+    std::cout << OtnPosition(g) << '\n';
+    return 0;
 }
 
 // A layout file made from an OpenTafl position; the layout line is printed

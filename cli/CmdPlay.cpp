@@ -5,6 +5,7 @@
 #include "cli/Commands.h"
 #include "core/Move.h"
 #include "records/Configuration.h"
+#include "records/GameRecord.h"
 #include "records/Notation.h"
 #include "records/PositionRecord.h"
 #include "records/TextFile.h"
@@ -21,13 +22,14 @@ namespace {
 const char* const PlayUsage =
     "usage: jarlsvakt-cli play FILE [--auto-reply] [--seed N] MOVE...\n"
     "  MOVE: user:CCRR>CCRR  attacker:CCRR>CCRR  defender:CCRR>CCRR  red  green  undo\n"
-    "        (a move may also be written in standard notation: user:d1-d4)\n";
+    "        (a move may also be written in standard notation, with the King's letter and the marks\n"
+    "        of a game record: user:d1-d4, user:Kf6-f5, attacker:d5-b5xb4++)\n";
 
 struct Step {
     std::string Text;   // as given, for the REFUSED line
     std::string Kind;   // "user", "attacker", "defender", "red", "green", "undo"
     Move Squares;
-    std::string Standard;   // the move in standard notation ("d1-d4"), read once the board is known
+    std::string Standard;   // the move in standard notation ("Kd1-d4x..."), read once the board is known
 };
 
 bool AllDigits(const std::string& text) {
@@ -69,19 +71,27 @@ bool UserMove(Game& g, const Move& s) {
     return EncodePosition(g) != before;
 }
 
-// Applies one step; false when it was refused.
-bool Apply(Game& g, const Step& step) {
-    Move s = step.Squares;
-    if (!step.Standard.empty()) {
-        Move move;
-        if (!ReadStandardMove(g, step.Standard, move)) return false;   // no move of this board
-        s = Move{move.From.Col, move.From.Row, move.To.Col, move.To.Row};
-    }
-    if (step.Kind == "user") return UserMove(g, s);
+// The move a step names, checked against the rules before anything is made:
+// false when it names no move of the board, or with the reason the rules
+// give.
+bool ReadStepMove(const Game& g, const Step& step, Move& s, std::string& reason) {
+    WrittenMove w;
+    w.Squares = step.Squares;
+    if (!step.Standard.empty() && !ReadStandardMove(g, step.Standard, w)) return false;   // no move of this board
+    if (!InPlay(g, w.Squares.From.Col, w.Squares.From.Row) || !InPlay(g, w.Squares.To.Col, w.Squares.To.Row)) return false;
+    s = w.Squares;
+    reason = RefuseWrittenMove(g, w, step.Kind == "attacker" ? 'a' : 'd');
+    return reason.empty();
+}
+
+// Applies one step; false, with the reason when there is one, when it was refused.
+bool Apply(Game& g, const Step& step, std::string& reason) {
+    Move s;
     if (step.Kind == "red") MakeRedAutoMove(g);
     else if (step.Kind == "green") MakeGreenAutoMove(g);
     else if (step.Kind == "undo") UndoCommand(g);
-    else if (!InPlay(g, s.From.Col, s.From.Row) || !InPlay(g, s.To.Col, s.To.Row)) return false;
+    else if (!ReadStepMove(g, step, s, reason)) return false;
+    else if (step.Kind == "user") return UserMove(g, s);
     else if (step.Kind == "attacker") MakeAttackerMove(g, s);
     else MakeDefenderMove(g, s);
     return true;
@@ -130,8 +140,10 @@ int RunPlay(const Args& args) {
     if (!FileExists(InProgramFolder(g, file)) && FileExists(file)) name = ResolveArgument(g, file);
     LoadLayout(g, name);
     if (g.LayoutFile != name) return 2;   // reported by LoadLayout
-    for (const Step& step : steps)
-        if (!Apply(g, step)) std::cout << "REFUSED " << step.Text << '\n';
+    for (const Step& step : steps) {
+        std::string reason;
+        if (!Apply(g, step, reason)) std::cout << "REFUSED " << step.Text << (reason.empty() ? "" : ": " + reason) << '\n';
+    }
     std::cout << "LAYOUT " << LayoutLine(g) << '\n';
     return 0;
 }

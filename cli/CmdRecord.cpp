@@ -7,8 +7,8 @@
 
 namespace jv::cli {
 
-// A moves log as a game record in standard move notation; a log whose
-// positions are not one move apart is reported at its first bad line.
+// A moves log as an OpenTafl game record; a log whose positions are not one
+// move apart, in turn, is reported at its first bad line.
 int RunRecord(const Args& args) {
     return RunOnMovesLogArgument(args, "record LOGFILE", [&](Game&, const std::vector<std::string>& lines) {
         const GameRecordResult record = MakeGameRecord(lines);

@@ -1,6 +1,7 @@
 #include "records/GameRecord.h"
 
 #include <algorithm>
+#include <sstream>
 #include <string_view>
 
 #include "core/Board.h"
@@ -8,6 +9,7 @@
 #include "core/SilentView.h"
 #include "core/VbText.h"
 #include "records/Notation.h"
+#include "records/Otn.h"
 #include "records/PositionRecord.h"
 
 namespace jv {
@@ -93,6 +95,12 @@ std::string Names(const Game& g, const std::vector<Square>& squares, const char*
     return names;
 }
 
+// "Kd4-d3" or "e3-e4": a move as the record writes it, before its captures.
+std::string WrittenText(const Position& g, const Move& m, bool king) {
+    return (king ? "K" : "") + StandardSquareName(g.BoardWidth, m.From.Col, m.From.Row) + "-" +
+           StandardSquareName(g.BoardWidth, m.To.Col, m.To.Row);
+}
+
 bool SameSquares(std::vector<Square> a, std::vector<Square> b) {
     const auto before = [](const Square& x, const Square& y) { return x.Col != y.Col ? x.Col < y.Col : x.Row < y.Row; };
     std::sort(a.begin(), a.end(), before);
@@ -161,23 +169,27 @@ bool FindMove(const Game& g, const LoggedPosition& before, const LoggedPosition&
     return true;
 }
 
-// The move runs along a row or a column over empty squares onto an empty
+// The move runs along a rank or a file over empty squares onto an empty
 // square, or the King's onto a Home corner.
-bool CheckPath(const Game& g, const LoggedPosition& before, const FoundMove& m, const std::string& text,
-               std::string& reason) {
-    if (m.From.Col != m.To.Col && m.From.Row != m.To.Row) {
+bool CheckPath(const Position& g, const Move& m, bool king, const std::string& text, std::string& reason) {
+    if ((m.From.Col != m.To.Col) == (m.From.Row != m.To.Row)) {
         reason = text + " runs along neither a rank nor a file";
         return false;
     }
     const int dc = m.To.Col > m.From.Col ? 1 : m.To.Col < m.From.Col ? -1 : 0;
     const int dr = m.To.Row > m.From.Row ? 1 : m.To.Row < m.From.Row ? -1 : 0;
     for (int c = m.From.Col + dc, r = m.From.Row + dr; c != m.To.Col || r != m.To.Row; c += dc, r += dr)
-        if (before.Letter(c, r) != 'E') {
-            reason = text + " passes over " + StandardSquare(g, c, r);
+        if (g.Board(c, r) != EmptyCode) {
+            reason = text + " passes over " + StandardSquareName(g.BoardWidth, c, r);
             return false;
         }
-    if (before.Letter(m.To.Col, m.To.Row) == 'H' && m.Kind != 'K') {
+    const int target = g.Board(m.To.Col, m.To.Row);
+    if (target == HomeCode && !king) {
         reason = text + ": only the King may enter a corner";
+        return false;
+    }
+    if (target != EmptyCode && target != HomeCode) {
+        reason = text + " ends on " + StandardSquareName(g.BoardWidth, m.To.Col, m.To.Row) + ", which is not empty";
         return false;
     }
     return true;
@@ -196,7 +208,7 @@ void SetBoard(Game& g, const LoggedPosition& p) {
 
 // Makes the move on the scratch game as the game makes it: the King taken
 // by an attacker's move, or at Home, ends it; otherwise it captures. Gives
-// the mark written after the move ("#" the King taken, "--" the King home).
+// the mark written after the move ("++" the King taken, "--" the King home).
 std::string MakeMoveAgain(Game& g, TakingsView& view, const FoundMove& m) {
     view.Taken.clear();
     g.Board(m.To.Col, m.To.Row) = g.Board(m.From.Col, m.From.Row);
@@ -205,7 +217,7 @@ std::string MakeMoveAgain(Game& g, TakingsView& view, const FoundMove& m) {
         g.KingCol = m.To.Col;
         g.KingRow = m.To.Row;
     }
-    if (m.Kind == 'a' && CheckKingCapture(g)) return "#";
+    if (m.Kind == 'a' && CheckKingCapture(g)) return "++";
     if (m.Kind == 'K' && IsCorner(g, m.To.Col, m.To.Row)) return "--";
     CaptureAround(g, m.To.Col, m.To.Row);
     g.EventLog.clear();
@@ -224,9 +236,9 @@ bool ReadMove(Game& g, TakingsView& view, const LoggedPosition& before, const Lo
               std::string& reason) {
     FoundMove m;
     if (!FindMove(g, before, after, m, reason)) return false;
-    const std::string move = StandardSquare(g, m.From.Col, m.From.Row) + "-" + StandardSquare(g, m.To.Col, m.To.Row);
-    if (!CheckPath(g, before, m, move, reason)) return false;
+    const std::string move = WrittenText(g, Move{m.From, m.To}, m.Kind == 'K');
     SetBoard(g, before);
+    if (!CheckPath(g, Move{m.From, m.To}, m.Kind == 'K', move, reason)) return false;
     const std::string mark = MakeMoveAgain(g, view, m);
     if (EncodePosition(g) != after.Line.substr(4)) {
         if (SameSquares(view.Taken, m.Gone)) {
@@ -300,33 +312,32 @@ bool ReadMoveAndEscape(Game& g, TakingsView& view, const LoggedPosition& before,
     return true;
 }
 
-// Numbers the moves: each number holds a defenders' move and the attackers'
-// move after it; a move that cannot join the number before starts the next.
+// Numbers the moves as the sides take turns, two to a number; the side of
+// the first move is the side that starts.
 class MoveNumbers {
 public:
-    void Add(const std::string& move, bool defenders) {
-        if (!defenders && open_) {
-            line_ += " " + move;
-            open_ = false;
-            return;
+    // False, with the reason, when the side moved last time too.
+    bool Add(const std::string& move, bool defenders, std::string& reason) {
+        if (count_ > 0 && defenders == lastDefenders_) {
+            reason = std::string(defenders ? "the defenders" : "the attackers") + " move twice in a row, " +
+                     "where a record has the sides take turns";
+            return false;
         }
-        Close();
-        ++number_;
-        line_ = std::to_string(number_) + ". " + (defenders ? "" : "... ") + move;
-        open_ = defenders;
-    }
-    void Close() {
-        if (!line_.empty()) lines_.push_back(line_);
-        line_.clear();
-        open_ = false;
+        if (count_ == 0) defendersFirst_ = defenders;
+        if (count_ % 2 == 0) lines_.push_back(std::to_string(count_ / 2 + 1) + ".");
+        lines_.back() += " " + move;
+        lastDefenders_ = defenders;
+        ++count_;
+        return true;
     }
     const std::vector<std::string>& Lines() const { return lines_; }
+    // Without a move the defenders start, as the user's side does.
+    bool DefendersFirst() const { return count_ == 0 || defendersFirst_; }
 
 private:
     std::vector<std::string> lines_;
-    std::string line_;
-    int number_ = 0;
-    bool open_ = false;   // the line holds a defenders' move and waits for the attackers'
+    int count_ = 0;
+    bool defendersFirst_ = true, lastDefenders_ = true;
 };
 
 GameRecordResult Refuse(int line, const std::string& reason) {
@@ -336,12 +347,119 @@ GameRecordResult Refuse(int line, const std::string& reason) {
     return result;
 }
 
+// 'K', 'd', 'a' or '.' for the piece on a square.
+char KindOn(const Position& g, const Square& s) {
+    const int code = g.Board(s.Col, s.Row);
+    if (code == AttackerCode) return 'a';
+    if (code != DefenderCode) return '.';
+    return IsKingOn(g, s.Col, s.Row) ? 'K' : 'd';
+}
+
+// The layout line of the scratch game's position.
+std::string LineOf(const Game& g) { return Format(g.BoardWidth, "00") + Format(g.BoardHeight, "00") + EncodePosition(g); }
+
+// The parts of an OpenTafl game record: the rules record (from its tag or
+// from a line of its own), a position tag, and the moves in their order.
+struct RecordParts {
+    std::string Rules, Position;
+    std::vector<std::string> Moves;
+};
+
+bool IsTurnNumber(const std::string& word) {
+    return word.size() > 1 && word.back() == '.' && AllDigits(std::string_view(word).substr(0, word.size() - 1));
+}
+
+// Tags and comments are held in brackets; the moves stand between them.
+RecordParts SplitRecord(const std::string& text) {
+    RecordParts parts;
+    std::string outside;
+    for (std::size_t i = 0; i < text.size();) {
+        if (text[i] != '[') {
+            outside += text[i++];
+            continue;
+        }
+        const std::size_t close = text.find(']', i);
+        const std::string tag = text.substr(i + 1, close == std::string::npos ? close : close - i - 1);
+        if (tag.rfind("rules:", 0) == 0) parts.Rules = tag.substr(6);
+        if (tag.rfind("position:", 0) == 0) parts.Position = tag.substr(9);
+        outside += ' ';
+        i = close == std::string::npos ? text.size() : close + 1;
+    }
+    std::istringstream words(outside);
+    for (std::string word; words >> word && word != "---";) {   // "---": a side resigns
+        if (word.find(':') != std::string::npos) parts.Rules += " " + word;
+        else if (!IsTurnNumber(word)) parts.Moves.push_back(word);
+    }
+    return parts;
+}
+
+// The start position and the side that starts, from the rules record and
+// the position tag; false with the reason.
+bool ReadRules(const RecordParts& parts, std::string& start, bool& attackersFirst, std::string& reason) {
+    std::istringstream fields(parts.Rules);
+    std::string dim, otn;
+    bool inverted = false;
+    attackersFirst = true;
+    for (std::string field; fields >> field;) {
+        if (field.rfind("dim:", 0) == 0) dim = field.substr(4);
+        if (field == "atkf:n") attackersFirst = false;
+        if (field.rfind("start:", 0) == 0) otn = field.substr(6);
+        if (field.rfind("starti:", 0) == 0) {
+            otn = field.substr(7);
+            inverted = true;
+        }
+    }
+    if (!parts.Position.empty()) {
+        otn = parts.Position;
+        inverted = false;
+    }
+    if (otn.empty()) {
+        reason = "no rules record with a start position";
+        return false;
+    }
+    if (!OtnToLayoutLine(otn, start, reason, inverted)) {
+        reason = "the start position: " + reason;
+        return false;
+    }
+    const std::string ranks = std::to_string(ValInt(std::string_view(start).substr(0, 2)));
+    if (!dim.empty() && dim != ranks) {
+        reason = "the rules record gives dim:" + dim + " for a board of " + ranks + " ranks";
+        return false;
+    }
+    return true;
+}
+
 }  // namespace
+
+std::string RefuseWrittenMove(const Game& g, const WrittenMove& w, char side) {
+    const Move& m = w.Squares;
+    const char kind = KindOn(g, m.From);
+    const std::string text = WrittenText(g, m, w.King);
+    if (kind == '.' || (kind == 'a') != (side == 'a'))
+        return StandardSquare(g, m.From.Col, m.From.Row) + " holds no piece of the " +
+               (side == 'a' ? "attackers" : "defenders");
+    if (w.King && kind != 'K') return "the King does not stand on " + StandardSquare(g, m.From.Col, m.From.Row);
+    std::string reason;
+    if (!CheckPath(g, m, kind == 'K', text, reason)) return reason;
+    TakingsView view;
+    Game scratch;
+    scratch.View = &view;
+    static_cast<Position&>(scratch) = g;
+    const std::string end = MakeMoveAgain(scratch, view, FoundMove{m.From, m.To, kind, {}});
+    if (w.CapturesWritten && !SameSquares(view.Taken, w.Captures))
+        return text + " takes " + Names(g, view.Taken, "nothing") + ", not " + Names(g, w.Captures, "");
+    if ((w.Mark == "++" || w.Mark == "--") && w.Mark != end)
+        return text + (w.Mark == "++" ? " does not take the King" : " does not bring the King home");
+    return "";
+}
 
 GameRecordResult MakeGameRecord(const std::vector<std::string>& layoutLines) {
     int width = 0, height = 0;
     if (layoutLines.empty()) return Refuse(1, "no positions");
     if (!ReadSize(layoutLines.front(), width, height)) return Refuse(1, "not a layout line");
+    if (width != height)
+        return Refuse(1, "the board is " + std::to_string(width) + "x" + std::to_string(height) +
+                             ", where a record holds a square board");
     TakingsView view;
     Game g;
     g.View = &view;
@@ -349,8 +467,9 @@ GameRecordResult MakeGameRecord(const std::vector<std::string>& layoutLines) {
     NewBoard(g, width, height);
 
     std::string reason;
-    LoggedPosition before, after;
-    if (!ReadPosition(g, layoutLines.front(), before, reason)) return Refuse(1, reason);
+    LoggedPosition first, before, after;
+    if (!ReadPosition(g, layoutLines.front(), first, reason)) return Refuse(1, reason);
+    before = first;
     MoveNumbers numbers;
     for (std::size_t i = 1; i < layoutLines.size(); ++i) {
         const int lineNumber = static_cast<int>(i) + 1;
@@ -360,17 +479,58 @@ GameRecordResult MakeGameRecord(const std::vector<std::string>& layoutLines) {
         if (!ReadMove(g, view, before, after, moves.front(), reason) &&
             !ReadMoveAndEscape(g, view, before, after, moves, reason))
             return Refuse(lineNumber, reason);
-        for (const MoveText& move : moves) numbers.Add(move.Text, move.Defenders);
+        for (const MoveText& move : moves)
+            if (!numbers.Add(move.Text, move.Defenders, reason)) return Refuse(lineNumber, reason);
         before = after;
     }
-    numbers.Close();
 
+    SetBoard(g, first);
     GameRecordResult result;
     result.Ok = true;
-    result.Lines = {"[layout \"" + layoutLines.front() + "\"]",
-                    "[size \"" + std::to_string(width) + "x" + std::to_string(height) + "\"]"};
+    result.Lines = {"[rules:dim:" + std::to_string(width) + " esc:c surf:n atkf:" +
+                    (numbers.DefendersFirst() ? "n" : "y") + " tfr:i ka:y ks:y cenh: cenhe: start:" + OtnPosition(g) + "]"};
     if (!numbers.Lines().empty()) result.Lines.push_back("");
     result.Lines.insert(result.Lines.end(), numbers.Lines().begin(), numbers.Lines().end());
+    return result;
+}
+
+OtnGameResult ReadOtnGame(const std::string& text) {
+    OtnGameResult result;
+    const RecordParts parts = SplitRecord(text);
+    std::string start;
+    bool attackersFirst = true;
+    if (!ReadRules(parts, start, attackersFirst, result.Reason)) return result;
+    TakingsView view;
+    Game g;
+    g.View = &view;
+    BuildColumnLetters(g);
+    NewBoard(g, ValInt(std::string_view(start).substr(0, 2)), ValInt(std::string_view(start).substr(2, 2)));
+    LoggedPosition position;
+    ReadPosition(g, start, position, result.Reason);   // a line OtnToLayoutLine made
+    SetBoard(g, position);
+    result.Positions.push_back(start);
+    std::string end;
+    for (std::size_t i = 0; i < parts.Moves.size(); ++i) {
+        const std::string where = "move " + std::to_string(i + 1) + " (" + parts.Moves[i] + "): ";
+        WrittenMove w;
+        if (!end.empty()) {
+            result.Reason = where + "the game ended with move " + std::to_string(i);
+            return result;
+        }
+        if (!ReadStandardMove(g, parts.Moves[i], w)) {
+            result.Reason = where + "not a move on this board";
+            return result;
+        }
+        const char side = (i % 2 == 0) == attackersFirst ? 'a' : 'd';
+        const std::string refusal = RefuseWrittenMove(g, w, side);
+        if (!refusal.empty()) {
+            result.Reason = where + refusal;
+            return result;
+        }
+        end = MakeMoveAgain(g, view, FoundMove{w.Squares.From, w.Squares.To, KindOn(g, w.Squares.From), {}});
+        result.Positions.push_back(LineOf(g));
+    }
+    result.Ok = true;
     return result;
 }
 

@@ -2,25 +2,29 @@
 #include <string>
 #include <vector>
 
+#include "core/Game.h"
+#include "records/Notation.h"
+
 namespace jv {
 
-// A game in standard move notation, made from the positions of a game: a
-// moves log, or the undo history with the position on the board after it.
-// Each move is read off two positions that follow one another: the piece
-// that left one square for another along a free straight line, and the
-// enemy pieces gone, which must be exactly those the move takes by the
+// Game records in OpenTafl's form (OTN), written from the positions of a
+// game and read back into positions.
+//
+// Writing: each move is read off two positions that follow one another: the
+// piece that left one square for another along a free straight line, and
+// the enemy pieces gone, which must be exactly those the move takes by the
 // game's rules (CaptureAround; after an attacker's move the King taken as
 // CheckKingCapture finds him, which takes nothing else; the King on a corner
 // takes nothing). Two equal positions in a row (the recording switch writes
-// the position as it stands) are no move.
+// the position as it stands) are no move. The sides must take turns and the
+// board must be square.
 //
-//   [layout "<the first position's layout line>"]
-//   [size "WxH"]                   W and H of the layout line
+//   [rules:dim:7 esc:c surf:n atkf:n tfr:i ka:y ks:y cenh: cenhe: start:<OTN of the first position>]
 //   (an empty line, when moves follow)
-//   1. f4-d4 a4-b4xb5/c4           the defenders' move first, then the attackers'
-//   2. ... k8-f8                   an attackers' move without a defenders' move before it
-//   7. f6-a1--                     the King reaches a corner
-//   9. ... d2-d4#                  the attackers take the King
+//   1. d5-b5 d6-b6xb5              the moves in the order played, two to a number;
+//   2. Kd4-d3 a4-a2                atkf:n when the defenders moved first
+//   7. Kf6-a1--                    the King reaches a corner
+//   9. d2-d4++                     the attackers take the King
 struct GameRecordResult {
     bool Ok = false;
     std::vector<std::string> Lines;   // the record, line by line, when Ok
@@ -31,5 +35,28 @@ struct GameRecordResult {
 // layoutLines: the positions as layout lines, oldest first; all must be of
 // the first one's size.
 GameRecordResult MakeGameRecord(const std::vector<std::string>& layoutLines);
+
+// Reading: the record's tags and comments stand in brackets; the rules
+// record (a [rules:...] tag or a line of its own) gives the start ("start:",
+// or "starti:" listing the top rank first; a [position:...] tag replaces it)
+// and the side that starts ("atkf:n" the defenders); its other fields are
+// left to this program's rules. Turn numbers are skipped, "---" (a side
+// resigns) ends the moves, and each move must be one the rules allow to the
+// side whose turn it is (RefuseWrittenMove), none after the game has ended.
+struct OtnGameResult {
+    bool Ok = false;                      // every move was read and allowed
+    std::vector<std::string> Positions;   // layout lines: the start, then the position after each allowed move
+    std::string Reason;                   // when not Ok: "move N (text): " and why, or what the rules record lacks
+};
+OtnGameResult ReadOtnGame(const std::string& text);
+
+// The rules' verdict on a written move of one side ('a' the attackers, 'd'
+// the defenders) on g's position, which is not changed: "" when a piece of
+// the side stands on its first square (the King, when written with his
+// letter), its path along a rank or file is free, it stops on an empty
+// square (a corner only for the King), and the captures and the ending it
+// writes ("++", "--") are those it makes; otherwise the reason. The marks
+// "+" and "-" are taken as written.
+std::string RefuseWrittenMove(const Game& g, const WrittenMove& w, char side);
 
 }  // namespace jv

@@ -19,13 +19,47 @@ bool SplitSquare(std::string_view text, int& file, int& rank) {
     return true;
 }
 
-bool SplitMove(std::string_view text, std::string_view& from, std::string_view& to) {
+bool IsSquareText(std::string_view text) {
+    int file = 0, rank = 0;
+    return SplitSquare(text, file, rank);
+}
+
+// The parts of a written move, by form only.
+struct MoveParts {
+    bool King = false;
+    std::string_view From, To;
+    std::vector<std::string_view> Captures;
+    bool CapturesWritten = false;
+    std::string_view Mark;
+};
+
+bool SplitMove(std::string_view text, MoveParts& parts) {
+    parts = MoveParts{};
+    parts.King = !text.empty() && text.front() == 'K';
+    if (parts.King) text.remove_prefix(1);
+    const std::size_t markAt = text.find_last_not_of("+-");
+    if (markAt == std::string_view::npos) return false;
+    parts.Mark = text.substr(markAt + 1);
+    if (parts.Mark.size() > 2 || (parts.Mark.size() == 2 && parts.Mark[0] != parts.Mark[1])) return false;
+    text = text.substr(0, markAt + 1);
+    const std::size_t x = text.find('x');
+    parts.CapturesWritten = x != std::string_view::npos;
+    for (std::size_t at = x; at != std::string_view::npos;) {
+        const std::size_t next = text.find('/', at + 1);
+        parts.Captures.push_back(text.substr(at + 1, next == std::string_view::npos ? next : next - at - 1));
+        if (!IsSquareText(parts.Captures.back())) return false;
+        at = next;
+    }
+    text = text.substr(0, x);
     const std::size_t dash = text.find('-');
     if (dash == std::string_view::npos) return false;
-    from = text.substr(0, dash);
-    to = text.substr(dash + 1);
-    int file = 0, rank = 0;
-    return SplitSquare(from, file, rank) && SplitSquare(to, file, rank);
+    parts.From = text.substr(0, dash);
+    parts.To = text.substr(dash + 1);
+    return IsSquareText(parts.From) && IsSquareText(parts.To);
+}
+
+bool ReadSquare(const Game& g, std::string_view text, Square& square) {
+    return ReadStandardSquare(g, text, square.Col, square.Row);
 }
 
 }  // namespace
@@ -46,16 +80,20 @@ bool ReadStandardSquare(const Game& g, std::string_view text, int& col, int& row
 }
 
 bool IsStandardMoveText(std::string_view text) {
-    std::string_view from, to;
-    return SplitMove(text, from, to);
+    MoveParts parts;
+    return SplitMove(text, parts);
 }
 
-bool ReadStandardMove(const Game& g, std::string_view text, Move& move) {
-    std::string_view from, to;
-    if (!SplitMove(text, from, to)) return false;
-    Move read;
-    if (!ReadStandardSquare(g, from, read.From.Col, read.From.Row)) return false;
-    if (!ReadStandardSquare(g, to, read.To.Col, read.To.Row)) return false;
+bool ReadStandardMove(const Game& g, std::string_view text, WrittenMove& move) {
+    MoveParts parts;
+    if (!SplitMove(text, parts)) return false;
+    WrittenMove read;
+    if (!ReadSquare(g, parts.From, read.Squares.From) || !ReadSquare(g, parts.To, read.Squares.To)) return false;
+    for (std::string_view capture : parts.Captures)
+        if (!ReadSquare(g, capture, read.Captures.emplace_back())) return false;
+    read.King = parts.King;
+    read.CapturesWritten = parts.CapturesWritten;
+    read.Mark = std::string(parts.Mark);
     move = read;
     return true;
 }

@@ -1,6 +1,7 @@
 #pragma once
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/Game.h"
 
@@ -23,11 +24,23 @@ std::string StandardSquareName(int boardWidth, int col, int row);
 // left as they were.
 bool ReadStandardSquare(const Game& g, std::string_view text, int& col, int& row);
 
-// True when the text has the form of a standard move, whatever the board.
+// A move as a game record or a player writes it: the King's letter when he
+// moves, the two squares, the captures after an "x" and an ending mark:
+// "Kf6-f5", "e5-e8xe9/d8", "a3-e3+" (the King may be taken next), "e3-e4++"
+// (the King taken), "Ke1-a1--" (the King home), "Ke5-e1-" (he has a free run).
+struct WrittenMove {
+    Move Squares;
+    bool King = false;
+    bool CapturesWritten = false;
+    std::vector<Square> Captures;
+    std::string Mark;   // "", "+", "++", "-" or "--"
+};
+
+// True when the text has the form of a written move, whatever the board.
 bool IsStandardMoveText(std::string_view text);
 
-// Reads "d1-d4"; false when the text is no move between two squares of the
-// board.
-bool ReadStandardMove(const Game& g, std::string_view text, Move& move);
+// Reads a written move; false when the text is none or names a square off
+// the board.
+bool ReadStandardMove(const Game& g, std::string_view text, WrittenMove& move);
 
 }  // namespace jv

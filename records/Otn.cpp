@@ -127,7 +127,7 @@ std::string LayoutLineOf(const std::vector<Rank>& board) {
 
 std::string OtnPosition(const Game& g) {
     std::string out = "/";
-    for (int col = 1; col <= g.BoardWidth; ++col) {
+    for (int col = g.BoardWidth; col >= 1; --col) {
         int empties = 0;
         for (int row = 1; row <= g.BoardHeight; ++row) {
             const char c = OtnLetter(g, col, row);
@@ -144,7 +144,7 @@ std::string OtnPosition(const Game& g) {
     return out;
 }
 
-bool OtnToLayoutLine(std::string_view otn, std::string& line, std::string& reason) {
+bool OtnToLayoutLine(std::string_view otn, std::string& line, std::string& reason, bool topRankFirst) {
     std::string_view text = TrimBlanks(otn);
     if (!text.empty() && text.front() == '/') text.remove_prefix(1);
     if (!text.empty() && text.back() == '/') text.remove_suffix(1);
@@ -158,14 +158,24 @@ bool OtnToLayoutLine(std::string_view otn, std::string& line, std::string& reaso
         reason = "the position has " + std::to_string(width) + " ranks, more than 14";
         return false;
     }
+    // The board by Col: Col 1 is the top rank, the last Col rank 1.
     std::vector<Rank> board(texts.size());
+    const int firstRank = topRankFirst ? width : 1;
+    const Rank& first = board[static_cast<std::size_t>(width - firstRank)];
     for (int i = 0; i < width; ++i) {
-        if (!ReadRank(texts[i], width - i, board[i], reason)) return false;
-        if (board[i].size() != board.front().size()) {
-            reason = "rank " + std::to_string(width - i) + " has " + std::to_string(board[i].size()) +
-                     " squares, rank " + std::to_string(width) + " has " + std::to_string(board.front().size());
+        const int rank = topRankFirst ? width - i : i + 1;
+        Rank& squares = board[static_cast<std::size_t>(width - rank)];
+        if (!ReadRank(texts[i], rank, squares, reason)) return false;
+        if (squares.size() != first.size()) {
+            reason = "rank " + std::to_string(rank) + " has " + std::to_string(squares.size()) + " squares, rank " +
+                     std::to_string(firstRank) + " has " + std::to_string(first.size());
             return false;
         }
+    }
+    if (board.front().size() != texts.size()) {
+        reason = "the position has " + std::to_string(width) + " ranks of " + std::to_string(board.front().size()) +
+                 " squares: an OpenTafl board is square";
+        return false;
     }
     if (!CheckPieces(board, reason)) return false;
     line = LayoutLineOf(board);

@@ -8,13 +8,23 @@ namespace jv {
 
 const char* const PositionFilePatterns = "*.txt;;*.otn";
 const char* const PositionFileDescriptions = "Game Files;;OpenTafl positions";
+const char* const LoadFilePatterns = "*.txt;;*.otn;;*.otg";
+const char* const LoadFileDescriptions = "Game Files;;OpenTafl positions;;OpenTafl games";
 
-bool IsOtnFileName(const std::string& name) {
-    return name.size() >= 4 && Lower(name.substr(name.size() - 4)) == ".otn";
+namespace {
+
+bool EndsWith(const std::string& name, const char* extension) {
+    return name.size() >= 4 && Lower(name.substr(name.size() - 4)) == extension;
 }
 
+}  // namespace
+
+bool IsOtnFileName(const std::string& name) { return EndsWith(name, ".otn"); }
+
+bool IsOtnGameFileName(const std::string& name) { return EndsWith(name, ".otg"); }
+
 bool WriteOtnFile(const Game& g, const std::string& path) {
-    return WriteFileAtomically(path, OtnPosition(g) + "\r\n");
+    return g.BoardWidth == g.BoardHeight && WriteFileAtomically(path, OtnPosition(g) + "\r\n");
 }
 
 }  // namespace jv

@@ -14,7 +14,6 @@ namespace jv {
 
 namespace {
 
-
 // Where a refused history went wrong, as the Undo list names its entries.
 std::string BadMove(const GameRecordResult& record) {
     if (record.BadLine <= 1) return "the first position: " + record.Reason;
@@ -47,10 +46,10 @@ void ExportGameRecordCommand(Game& g) {
         g.View->Show("The moves cannot be written as a game record:\r\n" + BadMove(record), "vbcritical+vbok");
         return;
     }
-    std::string name = ChooseGameFile(g, FileMode::Save, "Select an output file for the game record", "*.txt",
-                                      "Game Records");
+    std::string name = ChooseGameFile(g, FileMode::Save, "Select an output file for the game record", "*.otg",
+                                      "OpenTafl games");
     if (name.empty()) return;
-    name = WithExtension(name, "txt");
+    name = WithExtension(name, "otg");
     const std::string path = InProgramFolder(g, name);
     if (FileThere(path) && g.View->Show(name + "\r\nOverWrite file?", "vbYesNo+vbquestion") != ButtonYes) return;
     if (!WriteFileAtomically(path, JoinLines(record.Lines))) {

@@ -8,16 +8,17 @@
 #include "core/Board.h"
 #include "core/EventLog.h"
 #include "core/GameView.h"
+#include "records/GameRecord.h"
 #include "records/LayoutFile.h"
 #include "records/Otn.h"
 #include "records/OtnFile.h"
 #include "records/TextFile.h"
 #include "session/FileChoice.h"
+#include "session/Recording.h"
 
 namespace jv {
 
 namespace {
-
 
 // The opening shipped with the program, the last resort of a failed load.
 const std::string ShippedOpening = "patf.txt";
@@ -103,6 +104,20 @@ void ReportUnreadableLayout(Game& g, const std::string& path, const std::string&
     LoadEmptyBoard(g, path);
 }
 
+// Starts a game on a position read from an OpenTafl file: it becomes the
+// layout file "otnlayout.txt", which LoadLayout then loads. False when it
+// could not be (reported).
+bool LoadOtnLayoutLine(Game& g, const std::string& layout) {
+    const std::string path = g.ProgramFolder + "otnlayout.txt";
+    if (!WriteFileAtomically(path, layout + "\r\n")) {
+        g.View->Show("Layout File:\r\n" + path + "\r\ncould not be written, the position is not loaded",
+                     "vbcritical+vbok");
+        return false;
+    }
+    LoadLayout(g, path);
+    return g.LayoutFile == path;   // a failure is reported by LoadLayout
+}
+
 }  // namespace
 
 bool LoadLayout(Game& g, const std::string& path) {
@@ -132,15 +147,29 @@ bool LoadOtnFile(Game& g, const std::string& name) {
                      "vbcritical+vbok");
         return false;
     }
-    const std::string path = g.ProgramFolder + "otnlayout.txt";
-    if (!WriteFileAtomically(path, layout + "\r\n")) {
-        g.View->Show("Layout File:\r\n" + path + "\r\ncould not be written, the position is not loaded",
+    if (!LoadOtnLayoutLine(g, layout)) return false;
+    PrintLog(g, "OpenTafl position: " + name, 0, 0);
+    return true;
+}
+
+bool LoadOtnGame(Game& g, const std::string& name) {
+    std::vector<std::string> lines;
+    if (!ReadLines(InProgramFolder(g, name), lines)) {
+        g.View->Show("OpenTafl Game File:\r\n" + name + "\r\ncould not be read", "vbcritical+vbok");
+        return false;
+    }
+    const OtnGameResult game = ReadOtnGame(JoinLines(lines));
+    if (game.Positions.empty()) {
+        g.View->Show("OpenTafl Game File:\r\n" + name + "\r\nholds no game JarlsVakt can play: " + game.Reason,
                      "vbcritical+vbok");
         return false;
     }
-    LoadLayout(g, path);
-    if (g.LayoutFile != path) return false;   // reported by LoadLayout
-    PrintLog(g, "OpenTafl position: " + name, 0, 0);
+    if (!LoadOtnLayoutLine(g, game.Positions.front())) return false;
+    PrintLog(g, "OpenTafl game: " + name, 0, 0);
+    StepThroughLog(g, game.Positions);
+    if (!game.Ok)
+        g.View->Show("OpenTafl Game File:\r\n" + name + "\r\nstops at a move JarlsVakt refuses: " + game.Reason,
+                     "vbcritical+vbok");
     return true;
 }
 
@@ -153,9 +182,13 @@ void ShowLayoutName(Game& g) {
 
 void LoadCommand(Game& g) {
     if (g.EditorOn) return;
-    const std::string name = ChooseGameFile(g, FileMode::Open, "Select an input file to load", PositionFilePatterns,
-                                            PositionFileDescriptions);
+    const std::string name = ChooseGameFile(g, FileMode::Open, "Select an input file to load", LoadFilePatterns,
+                                            LoadFileDescriptions);
     if (name.empty()) return;
+    if (IsOtnGameFileName(name)) {
+        LoadOtnGame(g, name);
+        return;
+    }
     if (IsOtnFileName(name)) {
         if (LoadOtnFile(g, name)) g.View->Show("Layout loaded from file:\r\n" + name, "vbinformation+vbok");
         return;

@@ -17,6 +17,15 @@ bool LoadLayout(Game& g, const std::string& path);
 // stays as it was; false then.
 bool LoadOtnFile(Game& g, const std::string& name);
 
+// Loads an OpenTafl game record (.otg, records/GameRecord.h): the game starts
+// on its start position as from an .otn file, then its positions are
+// stepped through as a replayed moves log is (StepThroughLog), the board
+// left on the last one shown. A record whose moves the rules refuse is
+// stepped through up to the last move allowed, then the refusal is shown.
+// False, with the game as it was, when the file cannot be read or its start
+// cannot be played.
+bool LoadOtnGame(Game& g, const std::string& name);
+
 // Shows the part of LayoutFile after its last folder separator as the
 // layout caption, with the whole name as tool tip.
 void ShowLayoutName(Game& g);

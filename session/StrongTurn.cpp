@@ -102,8 +102,8 @@ void PreviewSearchLine(Game& g, int index) {
     if (index < 0 || index >= static_cast<int>(g.SearchLines.size())) return;
     std::istringstream words(g.SearchLines[static_cast<std::size_t>(index)]);
     std::string depth, score, speed, first;
-    Move move;
-    if (words >> depth >> score >> speed >> first && ReadStandardMove(g, first, move)) ShowDragLine(g, move);
+    WrittenMove move;
+    if (words >> depth >> score >> speed >> first && ReadStandardMove(g, first, move)) ShowDragLine(g, move.Squares);
 }
 
 void ReadPlayers(Game& g) {

@@ -7,6 +7,7 @@
 #include "session/PlayerMoves.h"
 #include "session/Pointer.h"
 #include "records/GameRecord.h"
+#include "records/Otn.h"
 #include "session/GameRecordExport.h"
 #include "records/LayoutFile.h"
 #include "session/LayoutCommands.h"
@@ -33,17 +34,21 @@ Lines Verdict(const Lines& log) {
 
 }  // namespace
 
-TEST(GameRecord, TheMovesOfALoggedGameAreWrittenDefendersFirstWithTheirCaptures) {
-    // A logged game is written move by move, defenders first, with its captures, escape and King taken.
+TEST(GameRecord, TheMovesOfALoggedGameAreWrittenInTurnWithTheirCapturesAndReadBackToTheSamePositions) {
+    // A logged game is written move by move as the sides took turns, with its captures, escape and King taken,
+    // and the record read back replays to every logged position.
     const struct { const char* layout; const char* moves; Lines record; } rows[] = {
-        {Start.c_str(), "D2124 A6764 D4441 A6461 A6151 R",
-         {"1. a6-d6xd5 g2-d2", "2. d4-a4 d2-a2", "3. ... a2-a3"}},
+        {Start.c_str(), "D2124 A6764 D4441 A6461 R",
+         {"[rules:dim:7 esc:c surf:n atkf:n tfr:i ka:y ks:y cenh: cenhe: start:/7/6t/7/3K3/3t3/T6/7/]", "",
+          "1. a6-d6xd5 g2-d2", "2. Kd4-a4 d2-a2"}},
         {"07070606HEEEEEHEEE1EEEEEE0EEEE10E01EEEEEEEEEEEEE0EHEE1EEH", "A7444 U6667 A4454 U6777",
-         {"1. ... d1-d4xc4/e4/d5", "2. f2-g2 d4-d3", "3. g2-g1--"}},
-        {"07070606HEEEEEHEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEE0EHEEEEEH", "U6667 U6777",
-         {"line 2: the King reached g1 two moves after the line before, and more than one pair of moves leads there"}},
-        {"07070606HEEEEEHEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEE0EHEEEE1H", "U6667 U6777", {"1. f2-g2", "2. g2-g1--"}},
-        {"07070401HEEEEEHEEEEEEE1EEEEEE01EEEEEEEE1EEE0EEEEEEHEEEEEH", "A5451", {"1. ... d3-a3#"}},
+         {"1. d1-d4xc4/e4/d5 Kf2-g2", "2. d4-d3 Kg2-g1--"}},
+        {"07070401HEEEEEHEEEEEEE1EEEEEE01EEEEEEEE1EEE0EEEEEEHEEEEEH", "A5451",
+         {"[rules:dim:7 esc:c surf:n atkf:y tfr:i ka:y ks:y cenh: cenhe: start:/7/T6/3t3/Kt5/t6/7/7/]", "",
+          "1. d3-a3++"}},
+        {Start.c_str(), "D2124 A6764 A6461", {"line 4: the attackers move twice in a row, where a record has the sides take turns"}},
+        {"07070606HEEEEEHEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEE0EHEEEE1H", "U6667 U6777",
+         {"line 2: the defenders move twice in a row, where a record has the sides take turns"}},
     };
     for (const auto& r : rows) {
         TestGame t;
@@ -62,8 +67,42 @@ TEST(GameRecord, TheMovesOfALoggedGameAreWrittenDefendersFirstWithTheirCaptures)
         Lines log;
         ASSERT_TRUE(ReadLines(t.Path("log.txt"), log));
         Lines record = Verdict(log);
-        if (record.size() > 3) record.erase(record.begin(), record.begin() + 3);   // the layout, the size, a blank
+        if (record.size() > 1 && record.front() == r.record.front()) {
+            const OtnGameResult read = ReadOtnGame(JoinLines(record));
+            EXPECT_TRUE(read.Ok) << read.Reason;
+            EXPECT_EQ(read.Positions.back(), LayoutLine(t.g)) << r.moves;
+        }
+        if (record.size() > r.record.size()) record.erase(record.begin(), record.begin() + 2);   // the rules, a blank
         EXPECT_EQ(record, r.record) << r.moves;
+    }
+}
+
+TEST(GameRecord, AnOpenTaflRecordIsReadAndEachMoveTheRulesRefuseIsReported) {
+    // A record by another program replays under this program's rules, or names the first move they refuse and why.
+    const std::string brandubh = "[rules:dim:7 ks:n cenhe: cenh: start:/3t3/3t3/3T3/ttTKTtt/3T3/3t3/3t3/]\n\n";
+    const std::string kingOnC1 = "dim:7 start:/1tK1t2/2t1T2/7/7/7/7/7/\n";
+    const struct { std::string record; const char* verdict; } rows[] = {
+        {brandubh + "1. d2-e2 c4-c5\n[a comment|\nover two lines]\n2. e2-e3 Kd4-c4-\n3. ---", "4 moves"},
+        {kingOnC1 + "1. e1-d1++", "1 moves"},
+        {"[rules:dim:7 starti:/7/7/7/7/7/2t1T2/1tK1t2/]\n1. e1-d1++", "1 moves"},
+        {"[rules:dim:7 atkf:n start:/7/7/7/7/7/7/3K3/][position:/1tK1t2/2t1T2/7/7/7/7/7/]\n1. e2-e3 e1-d1++", "2 moves"},
+        {"1. d2-e2", "no rules record with a start position"},
+        {"[rules:dim:3 start:/3/1T1/3/]", "the start position: the position has no King"},
+        {"[rules:dim:9 start:/3t3/3t3/3T3/ttTKTtt/3T3/3t3/3t3/]", "the rules record gives dim:9 for a board of 7 ranks"},
+        {brandubh + "1. d2-h2", "move 1 (d2-h2): not a move on this board"},
+        {brandubh + "1. d3-f3", "move 1 (d3-f3): d3 holds no piece of the attackers"},
+        {brandubh + "1. d2-e2 Kd3-f3", "move 2 (Kd3-f3): the King does not stand on d3"},
+        {brandubh + "1. d1-d3", "move 1 (d1-d3): d1-d3 passes over d2"},
+        {brandubh + "1. d2-e3", "move 1 (d2-e3): d2-e3 runs along neither a rank nor a file"},
+        {brandubh + "1. a4-a1", "move 1 (a4-a1): a4-a1: only the King may enter a corner"},
+        {brandubh + "1. d2-e2xe3", "move 1 (d2-e2xe3): d2-e2 takes nothing, not e3"},
+        {brandubh + "1. d2-e2++", "move 1 (d2-e2++): d2-e2 does not take the King"},
+        {brandubh + "1. d2-e2 c4-c2--", "move 2 (c4-c2--): c4-c2 does not bring the King home"},
+        {kingOnC1 + "1. e1-d1 e2-e3", "move 2 (e2-e3): the game ended with move 1"},
+    };
+    for (const auto& r : rows) {
+        const OtnGameResult read = ReadOtnGame(r.record);
+        EXPECT_EQ(read.Ok ? std::to_string(read.Positions.size() - 1) + " moves" : read.Reason, r.verdict) << r.record;
     }
 }
 
@@ -88,6 +127,7 @@ TEST(GameRecord, PositionsThatAreNotOneMoveApartAreReportedAtTheFirstBadLine) {
         {{Start, "07070404HEEEEEH0EEEEEEEEE1EEEEEE0EEEEEEEHEEEEEEEE1HEEEEEH"}, "line 2: a Home square off the corners, on e3"},
         {{Start, "07070404HEEEEEH0EEEEEEEEE1EEEEEE0EEEEEEExEEEEEEEE1HEEEEEH"}, "line 2: the square e3 holds no piece letter"},
         {{Start, "07079999" + Start.substr(8)}, "line 2: the King's square 9999 lies outside every board"},
+        {{"03050202HEEEH00EEEHEE1H"}, "line 1: the board is 3x5, where a record holds a square board"},
         {{"15150808" + std::string(225, 'E')}, "line 1: not a layout line"},
         {{}, "line 1: no positions"},
     };
@@ -97,35 +137,51 @@ TEST(GameRecord, PositionsThatAreNotOneMoveApartAreReportedAtTheFirstBadLine) {
     }
 }
 
-TEST(GameRecord, ANonSquareBoardNamesItsRanksByItsFirstIndex) {
-    // On a board of 3 Cols and 5 Rows the files run a..e along the Row and rank 1 is Col 3.
-    const std::string start = "03050202HEEEH00EEEHEE1H";
-    const std::string attacked = "03050202HEE1H00EEEHEEEH";   // the attacker from C4 to A4
-    const std::string kingMoved = "03050205HEE1H0EEE0HEEEH";   // the King from B2 to B5
-    EXPECT_EQ(Verdict({start, attacked, kingMoved}), (Lines{"[layout \"" + start + "\"]", "[size \"3x5\"]", "", "1. ... d1-d3", "2. b2-e2"}));
-}
-
-TEST(GameRecordExport, TheUndoHistoryIsWrittenAsAGameRecord) {
-    // "Export game record..." writes the undo history as a record, or reports the first move that is no move.
+TEST(GameRecordExport, TheUndoHistoryIsWrittenAsAGameRecordThatLoadsBackToTheSamePosition) {
+    // "Export game record..." writes the undo history as an OpenTafl record, or reports the first move that is no
+    // move; Load takes the record back and steps through it to the position the game reached.
     TestGame t;
     Game& g = t.g;
     t.WriteFile("start.txt", Start + "\r\n");
     LoadLayout(g, "start.txt");
-    t.view.FileChoices = {"game", "game.txt", "other.txt"};
+    t.view.FileChoices = {"game", "game.otg", "game.otg"};
     ExportGameRecordCommand(g);
     MakeDefenderMove(g, {{2, 1}, {2, 4}});
     MakeAttackerMove(g, {{6, 7}, {6, 4}});
     ExportGameRecordCommand(g);
+    const std::string reached = LayoutLine(g);
     MakeDefenderMove(g, {{4, 4}, {4, 1}});
     ExportGameRecordCommand(g);   // not replaced: the question is not answered Yes
-    EXPECT_EQ(t.ReadFile("game.txt"), "[layout \"" + Start + "\"]\r\n[size \"7x7\"]\r\n\r\n1. a6-d6xd5 g2-d2\r\n");
+    EXPECT_EQ(t.ReadFile("game.otg"), "[rules:dim:7 esc:c surf:n atkf:n tfr:i ka:y ks:y cenh: cenhe: "
+                                      "start:/7/6t/7/3K3/3t3/T6/7/]\r\n\r\n1. a6-d6xd5 g2-d2\r\n");
     Undo_MouseUp(g, 2);   // the first position picked in the Undo list and played on from
     MakeDefenderMove(g, {{2, 1}, {2, 4}});
     ExportGameRecordCommand(g);
+    LoadCommand(g);
+    EXPECT_EQ(LayoutLine(g), reached);
     EXPECT_EQ(t.view.Messages(), (Lines{"No move has been made in this game yet [vbinformation+vbok]",
-                                        "Game record saved to file:\r\ngame.txt [vbinformation+vbok]",
-                                        "game.txt\r\nOverWrite file? [vbYesNo+vbquestion]",
+                                        "Game record saved to file:\r\ngame.otg [vbinformation+vbok]",
+                                        "game.otg\r\nOverWrite file? [vbYesNo+vbquestion]",
                                         "The moves cannot be written as a game record:\r\nmove 3: pieces arrived on "
-                                        "a6/d5/g2: more than one move [vbcritical+vbok]"}));
-    EXPECT_EQ(t.ReadFile("other.txt"), "");
+                                        "a6/d5/g2: more than one move [vbcritical+vbok]",
+                                        "Step 1 of 3\r\nStop ? [vbquestion+vbYesNoCancel]",
+                                        "Step 2 of 3\r\nStop ? [vbquestion+vbYesNoCancel]",
+                                        "Step 3 of 3\r\nStop ? [vbquestion+vbYesNoCancel]"}));
+}
+
+TEST(GameRecordExport, AnOpenTaflGameTheRulesRefuseIsSteppedToItsLastAllowedMove) {
+    // A loaded record stops, with its reason, at the first move the rules refuse; one that cannot start is refused.
+    TestGame t;
+    Game& g = t.g;
+    t.WriteFile("puzzle.otg", "[rules:dim:7 start:/1tK1t2/2t1T2/7/7/7/7/7/]\n1. b1-b2 e2-e3\n2. e1-d1 c1-c2\n");
+    t.WriteFile("noking.otg", "[rules:dim:3 start:/3/1T1/3/]\n");
+    t.view.FileChoices = {"puzzle.otg", "noking.otg"};
+    LoadCommand(g);
+    const Lines messages = t.view.Messages();
+    EXPECT_EQ(messages.back(), "OpenTafl Game File:\r\npuzzle.otg\r\nstops at a move JarlsVakt refuses: move 4 "
+                               "(c1-c2): c1-c2 ends on c2, which is not empty [vbcritical+vbok]");
+    EXPECT_EQ(OtnPosition(g), "/2Kt3/1tt4/4T2/7/7/7/7/");
+    LoadCommand(g);
+    EXPECT_EQ(t.view.Messages().back(), "OpenTafl Game File:\r\nnoking.otg\r\nholds no game JarlsVakt can play: "
+                                        "the start position: the position has no King [vbcritical+vbok]");
 }

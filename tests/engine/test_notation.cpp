@@ -38,28 +38,51 @@ TEST(Notation, FilesRunAcrossAndRanksUpFromTheLastColumn) {
             EXPECT_TRUE(ReadStandardSquare(t.g, StandardSquare(t.g, col, row), c, r) && c == col && r == row) << col << "," << row;
     for (const char* text : {"h1", "a10", "a0", "a01", "A1", "", "a", "1a", "a1x", "aa1", "a-1", "a 1"})
         EXPECT_FALSE(ReadStandardSquare(t.g, text, c, r)) << text;
-    Move move;
-    ASSERT_TRUE(ReadStandardMove(t.g, "e7-g7", move));
-    EXPECT_EQ((std::array{move.From.Col, move.From.Row, move.To.Col, move.To.Row}), (std::array{3, 5, 3, 7}));
-    for (const char* text : {"h1-a1", "a1-a10", "d1d4", "d1-", "0304>0302", "d1-d4x", "D1-D4"})
-        EXPECT_FALSE(ReadStandardMove(t.g, text, move)) << text;
+    // A written move: the King's letter, the squares, the captures after "x" and the ending mark.
+    const struct { const char* text; const char* read; } moves[] = {
+        {"e7-g7", "3,5>3,7 "},
+        {"Kc6-c4xb4/d4++", "K 4,3>6,3 x6,2 6,4 ++"},
+        {"a1-a3+", "9,1>7,1 +"},
+        {"g1-a1--", "9,7>9,1 --"},
+        {"h1-a1", "-"}, {"a1-a10", "-"}, {"d1d4", "-"}, {"d1-", "-"}, {"0304>0302", "-"}, {"D1-D4", "-"},
+        {"d1-d4xh1", "-"}, {"d1-d4x/a1", "-"}, {"a1-a3x+", "-"}, {"d1-d4+-", "-"}, {"d1-d4+++", "-"}, {"kd1-d4", "-"},
+    };
+    for (const auto& m : moves) {
+        WrittenMove w;
+        std::string read = "-";
+        if (ReadStandardMove(t.g, m.text, w)) {
+            const auto square = [](const Square& s) { return std::to_string(s.Col) + "," + std::to_string(s.Row); };
+            read = std::string(w.King ? "K " : "") + square(w.Squares.From) + ">" + square(w.Squares.To) + " " +
+                   (w.CapturesWritten ? "x" : "");
+            for (const Square& c : w.Captures) read += square(c) + " ";
+            read += w.Mark;
+        }
+        EXPECT_EQ(read, m.read) << m.text;
+    }
 }
 
-TEST(Otn, PositionsAreWrittenRankByRankAndReadBack) {
-    // An OpenTafl position is written rank by rank from Col 1 and reads back as the same layout line.
-    const struct { const char* layout; const char* otn; } rows[] = {
-        {BrandubhLine, BrandubhOtn},
-        {"03050202HE1EH00EE1HEEEH", "/2t2/TK2t/5/"},
-        {"03120201HEEEEEEEEEEH0EEEEEEEEEEEHEEEEEEEEE1H", "/12/K11/10t1/"},
+TEST(Otn, PositionsAreReadFromRankOneUpAndWrittenBack) {
+    // An OpenTafl position lists rank 1 first: the openings and an asymmetric position read and write back unchanged.
+    const struct { const char* otn; const char* king; } rows[] = {
+        {BrandubhOtn, "d4"},
+        {"/4ttt4/4t1t4/5t5/5T5/tt2TTT2tt/t1tTTKTTt1t/tt2TTT2tt/5T5/5t5/4t1t4/4ttt4/", "f6"},   // Tawlbwrdd
+        {OpeningOtn, "f6"},                                                                     // Copenhagen, Fetlar
+        {"/3ttt3/4t4/4T4/t3T3t/ttTTKTTtt/t3T3t/4T4/4t4/3ttt3/", "e5"},                          // Sea Battle
+        {"/1tK1t2/2t1T2/7/7/7/7/7/", "c1"},
     };
     for (const auto& r : rows) {
         TestGame t;
-        ASSERT_TRUE(ApplyLayoutLine(t.g, r.layout).Ok());
-        EXPECT_EQ(OtnPosition(t.g), r.otn) << r.layout;
         std::string line, reason;
         ASSERT_TRUE(OtnToLayoutLine(r.otn, line, reason)) << reason;
-        EXPECT_EQ(line, r.layout) << r.otn;
+        ASSERT_TRUE(ApplyLayoutLine(t.g, line).Ok());
+        EXPECT_EQ(StandardSquare(t.g, t.g.KingCol, t.g.KingRow), r.king) << r.otn;
+        EXPECT_EQ(OtnPosition(t.g), r.otn);
     }
+    // The inverted form, top rank first, where a record says so.
+    std::string line, inverted, reason;
+    ASSERT_TRUE(OtnToLayoutLine("/1tK1t2/2t1T2/7/7/7/7/7/", line, reason));
+    ASSERT_TRUE(OtnToLayoutLine("/7/7/7/7/7/2t1T2/1tK1t2/", inverted, reason, true)) << reason;
+    EXPECT_EQ(inverted, line);
     TestGame t;
     ASSERT_TRUE(ReadLayoutFile(t.g, DataPath("patf.txt")).Ok());
     EXPECT_EQ(OtnPosition(t.g), OpeningOtn);
@@ -69,16 +92,17 @@ TEST(Otn, PositionsNoBoardOfTheProgramHoldsAreRefusedWithTheirReason) {
     // An OpenTafl position no board of the program holds is refused with its reason in words.
     const struct { std::string otn; const char* reason; } rows[] = {
         {"/3/3/3/3/3/3/3/1K1/3/3/3/3/3/3/3/", "the position has 15 ranks, more than 14"},
-        {"/15/7K7/15/", "rank 3: more than 14 squares"},
-        {"/99999999999999999999/1K1/3/", "rank 3: more than 14 squares"},
-        {"/3/1K1/4/", "rank 1 has 4 squares, rank 3 has 3"},
+        {"/15/7K7/15/", "rank 1: more than 14 squares"},
+        {"/99999999999999999999/1K1/3/", "rank 1: more than 14 squares"},
+        {"/3/1K1/4/", "rank 3 has 4 squares, rank 1 has 3"},
+        {"/3t3/3t3/3T3/ttTKTtt/3T3/3t3/3t3/7/", "the position has 8 ranks of 7 squares: an OpenTafl board is square"},
         {"/3//3/", "rank 2: no squares"},
         {"/3/1k1/3/", "rank 2: 'k' is not t, T or K"},
         {"/3/1K 1/3/", "rank 2: a character that is no letter is not t, T or K"},
         {"/3/1K0/3/", "rank 2: a run of no empty squares"},
         {"/3/1T1/3/", "the position has no King"},
         {"/3/KTK/3/", "the position has 2 Kings"},
-        {"/t2/1K1/3/", "a piece stands on the corner a3"},
+        {"/t2/1K1/3/", "a piece stands on the corner a1"},
         {" // ", "the position is empty"},
         {"  3/1K1/3 \r\n", ""},
     };

@@ -1,5 +1,6 @@
 // The window and the tafl world's notation: the load and save dialogs offer OpenTafl positions after the
-// game files, a name saved under a filter gets its ending, and the Game menu exports the game record.
+// game files (the load dialog OpenTafl games too), a name saved under a filter gets its ending, and the Game
+// menu exports the game record.
 
 #include "WindowFixture.h"
 
@@ -30,12 +31,13 @@ private slots:
         QTest::addColumn<QString>("command");
         QTest::addColumn<QStringList>("filters");   // the one chosen first, then all
         const QString games = "Game Files (*.txt)", positions = "OpenTafl positions (*.otn)";
-        QTest::newRow("load") << "cmdload" << QStringList{games, games, positions};
+        QTest::newRow("load") << "cmdload" << QStringList{games, games, positions, "OpenTafl games (*.otg)"};
         QTest::newRow("save") << "cmdsave" << QStringList{games, games, positions};
         QTest::newRow("replay a moves log") << "cmdloadlog" << QStringList{games, games};
     }
     void TheDialogsOfferTheirFilters() {
-        // Load and save offer game files first and chosen, then OpenTafl positions; the replay game files alone.
+        // Load and save offer game files first and chosen, then OpenTafl positions (and games, to load); the
+        // replay game files alone.
         QFETCH(QString, command);
         QFETCH(QStringList, filters);
         StartedWindow s;
@@ -71,7 +73,7 @@ private slots:
     }
 
     void TheGameMenuExportsTheGameRecord() {
-        // Game > "Export game record..." writes the moves of the undo history in standard notation.
+        // Game > "Export game record..." writes the moves of the undo history as an OpenTafl game record.
         StartedWindow s;
         auto* exportRecord = s.Find<QAction>("mnuexportrecord");
         QCOMPARE(exportRecord->text(), QString("&Export game record..."));
@@ -79,13 +81,13 @@ private slots:
         s.Drag({4, 6}, {4, 3});   // D6 > D3, f8-c8
         s.window.FileChooser = [&](FileMode mode, const std::string& title) {
             const bool asked = mode == FileMode::Save && title == "Select an output file for the game record";
-            return asked ? s.folder.File("record.txt") : "";
+            return asked ? s.folder.File("record.otg") : "";
         };
         exportRecord->trigger();
-        const std::string patf = s.folder.Read("patf.txt");
-        QCOMPARE(s.folder.Read("record.txt"),
-                 "[layout \"" + patf.substr(0, patf.size() - 2) + "\"]\r\n[size \"11x11\"]\r\n\r\n1. f8-c8\r\n");
-        QVERIFY(s.questions.WasAsked("Game record saved to file:\r\n" + s.folder.File("record.txt")));
+        const std::string opening = OpeningOtn;
+        QCOMPARE(s.folder.Read("record.otg"), "[rules:dim:11 esc:c surf:n atkf:n tfr:i ka:y ks:y cenh: cenhe: start:" +
+                                                  opening.substr(0, opening.size() - 2) + "]\r\n\r\n1. f8-c8\r\n");
+        QVERIFY(s.questions.WasAsked("Game record saved to file:\r\n" + s.folder.File("record.otg")));
     }
 };
 
