@@ -16,6 +16,7 @@
 #include "ui/MainWindow.h"
 #include "ui/MsgForm.h"
 #include "ui/UndoLine.h"
+#include "ui/WindowColours.h"
 #include "ui/widgets/FileNameDialog.h"
 #include "ui/widgets/LineList.h"
 #include "ui/widgets/RedrawGuard.h"
@@ -76,9 +77,9 @@ int MainWindow::Show(const std::string& text, const std::string& style) {
     if (ended_) return MsgForm::ClosedAnswer;
     if (Answerer) return Answerer(text, style);
     MsgForm form(this);
-    QPalette palette = form.palette();
-    palette.setColor(QPalette::Window, ToQColor(game_.ColourTable[12]));
-    form.setPalette(palette);
+    // Before a scheme is loaded (the message that "all.col" is missing) the
+    // box keeps the desktop's own readable colours.
+    if (coloursApplied_) ColourMessageBox(form, appliedColours_);
     // A question waits for the user: the ordinary pointer, even mid-move.
     const bool busy = busy_ > 0;
     if (busy) QApplication::setOverrideCursor(Qt::ArrowCursor);

@@ -1,6 +1,11 @@
 // The main window: start-up, and the program's end by the exit command or the frame, also from inside the
 // automatic game.
 #include "WindowFixture.h"
+#include "records/ColourScheme.h"
+#include "ui/BoardPainter.h"
+#include "ui/MsgForm.h"
+#include "ui/WindowColours.h"
+#include "ui/widgets/LineList.h"
 
 using namespace jv;
 using namespace jv::uitest;
@@ -22,18 +27,53 @@ private slots:
         QVERIFY(s.At(6, 6) != s.At(3, 3));   // the King drawn
     }
 
-    void WithoutAllColTheProgramEnds() {
-        // Without "all.col" the program says so and ends before the window is usable; nothing is written.
+    void WithoutAllColTheProgramEndsWithAReadableMessage() {
+        // Without "all.col" the program says so, readably although no scheme has coloured the box, and ends
+        // before the window is usable; nothing is written.
         ProgramFolder folder(false);
         ui::MainWindow window(folder.Path());
-        Questions questions;
-        questions.AnswerFor(window);
-        QVERIFY(!window.Start() && window.Ended());
-        QCOMPARE(questions.Asked.size(), std::size_t(1));
-        QCOMPARE(questions.Asked[0].first,
-                 std::string("File: all.col is missing\r\nProgram cannot run without this file"));
-        QCOMPARE(questions.Asked[0].second, std::string("vbok+vbcritical"));
-        QVERIFY(!folder.Exists("jarlsvakt.cfg"));
+        QString text;
+        QColor ink, back;
+        bool ended = true;
+        WhileOpen<ui::MsgForm>([&] { ended = !window.Start() && window.Ended(); }, [&](ui::MsgForm* f) {
+            text = f->Text() + " " + QString::number(f->PictureShown()) + " " + f->Buttons().front()->text();
+            back = f->palette().color(f->backgroundRole());
+            ink = f->findChild<QLabel*>("Label1")->palette().color(QPalette::WindowText);
+            f->reject();
+        });
+        QVERIFY(ended && !folder.Exists("jarlsvakt.cfg"));
+        QCOMPARE(text, QString("File: all.col is missing\nProgram cannot run without this file 5 Ok"));
+        QVERIFY2(ui::Contrast(ink, back) >= 4.5, qPrintable(ink.name() + " on " + back.name()));
+    }
+
+    void EveryShippedSchemeDrawsReadableText() {
+        // Every text a shipped scheme draws reaches 4.5:1 on its background: the window, its buttons and
+        // lists, the event log's three voices, the grid letters and the message box.
+        StartedWindow s;
+        for (const std::string& scheme : FillSchemeList(s.g())) {
+            QVERIFY(LoadColourScheme(s.g(), scheme + ".col"));
+            s.window.DrawBoard();
+            ui::MsgForm box;
+            ui::ColourMessageBox(box, s.g().ColourTable);
+            box.Prepare("Stop ?", "vbyesno");
+            const QPalette window = s.window.palette(), button = s.Find("cmdload")->palette();
+            const auto* log = s.Find<ui::LineList>("EventLog");
+            const std::vector<std::tuple<const char*, QColor, QColor>> texts{
+                {"window", window.color(QPalette::WindowText), window.color(QPalette::Window)},
+                {"lists", window.color(QPalette::Text), window.color(QPalette::Base)},
+                {"buttons", button.color(QPalette::ButtonText), button.color(QPalette::Button)},
+                {"log, program", log->LineColour(0), window.color(QPalette::Base)},
+                {"log, defenders", log->LineColour(1), window.color(QPalette::Base)},
+                {"log, attackers", log->LineColour(2), window.color(QPalette::Base)},
+                {"grid letters", ui::LabelColour(s.g()), ui::BoardBackColour(s.g())},
+                {"message", box.findChild<QLabel*>("Label1")->palette().color(QPalette::WindowText),
+                 box.palette().color(QPalette::Window)},
+                {"message buttons", box.Buttons().front()->palette().color(QPalette::ButtonText),
+                 box.Buttons().front()->palette().color(QPalette::Button)}};
+            for (const auto& [what, text, back] : texts)
+                QVERIFY2(ui::Contrast(text, back) >= 4.5,
+                         qPrintable(QString::fromStdString(scheme) + " " + what + ": " + text.name() + " on " + back.name()));
+        }
     }
 
     void OnlyExitAnsweredYesWritesTheConfiguration_data() {
