@@ -50,6 +50,7 @@ private slots:
         for (const char* name : {"cmdload", "cmdsave", "cmdreset", "cmdundo", "Check2"}) s.Press(name);
         for (const char* name : {"mnuloadgame", "mnusavegame", "mnuresetgame"}) s.Find<QAction>(name)->trigger();
         QVERIFY(s.questions.Asked.empty() && filesChosen == 0 && s.g().MovesLogFile.empty());
+        QVERIFY(!s.Find("Check2")->isChecked());   // no tick promising a log nobody writes
         QVERIFY(s.palette()->isVisible());
         QCOMPARE(s.Find<QListWidget>("Undo")->count(), static_cast<int>(undoEntries));
         QCOMPARE(EncodePosition(s.g()), position);
