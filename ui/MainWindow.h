@@ -64,6 +64,7 @@ public:
     void ShowDragLine(const Move& m) override;
     void HideDragLine() override;
     void PrintLine(const std::string& text, int colour, int background) override;
+    // Clears the event log and, as a game starts, the reasoning panes.
     void ClearLog() override;
     void Pause(int ms) override;
     void DoEvents() override;

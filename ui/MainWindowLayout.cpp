@@ -27,8 +27,10 @@ namespace jv::ui {
 
 namespace {
 
-// A list with a caption above it, as one widget.
+// A list with a caption above it, as one widget; the tool tip, on both,
+// says what its lines mean.
 QWidget* Captioned(const QString& caption, QWidget* content, const QString& toolTip = {}) {
+    content->setToolTip(toolTip);
     auto* box = new QWidget;
     auto* layout = new QVBoxLayout(box);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -193,18 +195,32 @@ QWidget* MainWindow::BuildListsColumn() {
 
     auto* tabs = new QTabWidget;
     tabs->setObjectName("ListTabs");
-    tabs->addTab(Stack({Captioned("Ranked moves (score, defender score, from > to)", AddList(ListId::List1A, "List1A"),
-                                  "Press a line to see its move on the board"),
-                        Captioned("Plan", AddList(ListId::AttackerMovesRank, "AttackerMovesRank")),
-                        Captioned("Moves tried (to <from)", AddList(ListId::List2A, "List2A")),
-                        Captioned("Best, tied (to from score)", AddList(ListId::List3, "List3"))}),
-                 "Attackers");
-    tabs->addTab(Stack({Captioned("Ranked moves", AddList(ListId::List1D, "List1D"),
-                                  "Press a line to see its move on the board"),
-                        Captioned("Rules fired", AddList(ListId::DefenderMovesRank, "DefenderMovesRank")),
-                        Captioned("Candidates", AddList(ListId::List2D, "List2D"))}),
+    tabs->addTab(
+        Stack({Captioned("Ranked moves (score, defender score, from > to)", AddList(ListId::List1A, "List1A"),
+                         "Every attacker move weighed, best first. The first number is its score: the lower, "
+                         "the better for the attackers. The second is the defenders' best answer to it. "
+                         "Press a line to see its move on the board."),
+               Captioned("Plan (bonus, goal)", AddList(ListId::AttackerMovesRank, "AttackerMovesRank"),
+                         "The goals of the attackers' plan, each with its bonus: a move onto a goal's squares "
+                         "scores that much lower, that is better."),
+               Captioned("Moves tried (to <from)", AddList(ListId::List2A, "List2A"),
+                         "Every attacker move tried: the square it goes to, then the square it comes from."),
+               Captioned("Best, tied (to from score)", AddList(ListId::List3, "List3"),
+                         "The ranked moves sharing the best score; the computer plays one of them.")}),
+        "Attackers");
+    tabs->addTab(Stack({Captioned("Ranked moves (99999 - score, score, from > to)", AddList(ListId::List1D, "List1D"),
+                                  "Every defender move weighed, best first. The first number is 99999 minus its "
+                                  "score, so that the best comes first; the second is the score: the higher, the "
+                                  "better for the defenders. Press a line to see its move on the board."),
+                        Captioned("Rules fired (points, rule)", AddList(ListId::DefenderMovesRank, "DefenderMovesRank"),
+                                  "The defenders' rules that scored squares: the points each adds to its squares."),
+                        Captioned("Candidates (score, to <from)", AddList(ListId::List2D, "List2D"),
+                                  "Every defender move to a scored square: the square's score, the square it goes "
+                                  "to, then the square it comes from.")}),
                  "Defenders");
-    tabs->addTab(Captioned("Random mover (draw from>to)", AddList(ListId::List1, "List1")), "Random");
+    tabs->addTab(Captioned("Random mover (draw from>to)", AddList(ListId::List1, "List1"),
+                           "Every move of the side behind its random draw, smallest draw first: from > to."),
+                 "Random");
     for (ListId id : {ListId::List1A, ListId::List1D}) lists_[id]->viewport()->installEventFilter(this);
 
     QSplitter* column = Stack({Captioned("Event log", eventLog_), tabs});
@@ -251,6 +267,10 @@ void MainWindow::BuildMenus() {
     debugToggle_ = add(view, "mnudebug", "&Debug Buttons", QKeySequence("Ctrl+D"));
     debugToggle_->setCheckable(true);
     connect(debugToggle_, &QAction::toggled, debugPanel_, &QWidget::setVisible);
+    QAction* reasoning = add(view, "mnureasoning", "&Reasoning Panes", QKeySequence("Ctrl+R"));
+    reasoning->setCheckable(true);
+    reasoning->setChecked(true);
+    connect(reasoning, &QAction::toggled, findChild<QWidget*>("ListTabs"), &QWidget::setVisible);
 
     QMenu* options = menuBar()->addMenu("&Options");
     add(options, "mnuoptions", "&Options...");

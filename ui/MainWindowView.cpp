@@ -56,7 +56,14 @@ void MainWindow::PrintLine(const std::string& text, int colour, int background) 
     eventLog_->PrintLine(QString::fromStdString(text), colour, background);
 }
 
-void MainWindow::ClearLog() { eventLog_->clear(); }
+void MainWindow::ClearLog() {
+    eventLog_->clear();
+    // The log is cleared as a game starts: the reasoning shown for the game
+    // before (another board, perhaps) goes with it, while the lists the
+    // computer players read stay theirs.
+    for (auto& [id, list] : lists_)
+        if (id != ListId::Undo) list->clear();
+}
 
 void MainWindow::Pause(int ms) {
     if (game_.Ending) return;

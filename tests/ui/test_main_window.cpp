@@ -76,6 +76,29 @@ private slots:
         }
     }
 
+    void NewGameClearsTheReasoningPanes_data() {
+        QTest::addColumn<QStringList>("presses");
+        QTest::newRow("Reset") << QStringList{"cmdreset"};
+        QTest::newRow("Load") << QStringList{"cmdload"};
+        QTest::newRow("Play Layout") << QStringList{"cmdedit", "cmdedit"};
+    }
+    void NewGameClearsTheReasoningPanes() {
+        // The panes show nothing of the game before once a new one starts.
+        QFETCH(QStringList, presses);
+        StartedWindow s;
+        // The King two squares from a corner along a free edge: both sides' rankings have lines to show.
+        s.Load("small.txt", LayoutText({"H...K.H", "..d....", ".......", ".......", "..a....", "..d.a..", "H.....H"}));
+        for (const char* name : {"cmdGetDefenderRank", "cmdGetAttackerRank", "cmdRedRandom"})
+            s.Find<QPushButton>(name)->click();
+        const QStringList panes{"List1A", "AttackerMovesRank", "List2A", "List1D", "DefenderMovesRank", "List2D", "List1"};
+        for (const QString& name : panes) QVERIFY2(s.Find<QListWidget>(qPrintable(name))->count() > 0, qPrintable(name));
+        s.NextFile = "small.txt";
+        s.questions.AnswerTo["Reset layout?"] = 6;
+        for (const QString& name : presses) s.Press(qPrintable(name));
+        for (const QString& name : panes)
+            QVERIFY2(s.Find<QListWidget>(qPrintable(name))->count() == 0, qPrintable(name));
+    }
+
     void OnlyExitAnsweredYesWritesTheConfiguration_data() {
         QTest::addColumn<bool>("byFrame");
         QTest::addColumn<int>("answer");   // to "Exit?"
