@@ -61,6 +61,8 @@ private:
     bool FitToWidget();
     Square SquareUnder(QPoint position) const;
     void ShowHint(Square square);
+    // The hint again after the square's content changed under the pointer.
+    void RefreshHint(Square square);
     void HighlightReach(int a, int b);
     void PaintOverlay(QPainter& p);
 

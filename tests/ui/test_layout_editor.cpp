@@ -63,6 +63,7 @@ private slots:
         const QColor attacker = s.At(1, 6), defender = s.At(5, 6);   // as the narrower board shows them
         s.Click(3, 3);
         QVERIFY(s.g().EditorGrid(3, 3) == AttackerCode && s.g().Board(3, 3) == EmptyCode && s.At(3, 3) == attacker);
+        QVERIFY(s.window.statusBar()->currentMessage().endsWith(": attacker"));   // the line under the board too
         s.Click(1, 1);
         QCOMPARE(s.g().EditorGrid(1, 1), HomeCode);
 

@@ -45,6 +45,7 @@ private slots:
         QCOMPARE(p.LogLinesContaining("  Player1 Move D6 > D8") + p.LogLinesContaining("  Player2 Move "), 2);
         QCOMPARE(p.Find<QListWidget>("Undo")->count(), 2);
         QVERIFY(p.Find<QListWidget>("List1A")->count() > 0);   // the computer's reasoning stays to be read
+        QVERIFY(p.window.statusBar()->currentMessage().endsWith(": defender"));   // the dropped piece named
         QVERIFY(!enabledDuringMove && cursor == Qt::BusyCursor);
         QVERIFY(p.Board()->isEnabled() && QApplication::overrideCursor() == nullptr);
     }
