@@ -21,6 +21,7 @@
 #include "ui/BoardPicture.h"
 #include "ui/EditorPalette.h"
 #include "ui/MainWindow.h"
+#include "ui/widgets/ElidedLabel.h"
 #include "ui/widgets/LineList.h"
 
 namespace jv::ui {
@@ -128,9 +129,8 @@ QWidget* MainWindow::BuildCommandColumn() {
 
     auto* status = new QGroupBox("Position");
     auto* statusLayout = new QGridLayout(status);
-    layoutName_ = new QLabel;
+    layoutName_ = new ElidedLabel;
     layoutName_->setObjectName("LayoutName");
-    layoutName_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     statusLayout->addWidget(new QLabel("Layout:"), 0, 0);
     statusLayout->addWidget(layoutName_, 0, 1);
     const char* counterNames[2] = {"ptot0", "ptot1"};
