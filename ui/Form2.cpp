@@ -31,6 +31,10 @@ namespace {
 const char* const FrameCaptions[4] = {"User", "Computer", "Home", "King"};
 // The grid styles by button index, which is the BoardStyle they set.
 const char* const StyleCaptions[3] = {"Sunk", "Raised", "Flat"};
+// What each style draws, in plain words: the captions are kept for the
+// configuration's sake, the tool tips say what the player sees.
+const char* const StyleToolTips[3] = {"Draws flat squares in a grid of lines", "Draws raised squares",
+                                      "Draws sunken squares"};
 
 QString SchemeName(const std::string& schemeFile) {
     const QString name = QString::fromStdString(schemeFile);
@@ -92,6 +96,7 @@ QWidget* Form2::BuildSchemeAndStyle() {
         option3_[i] = new QRadioButton(StyleCaptions[i]);
         option3_[i]->setObjectName(QString("Option3_%1").arg(i));
         option3_[i]->setProperty("index", i);
+        option3_[i]->setToolTip(StyleToolTips[i]);
         // Each button shows the squares its style draws.
         Game sample = g_;
         sample.BoardStyle = i;

@@ -49,6 +49,26 @@ struct Options : StartedWindow {
 class TestOptionsDialog : public QObject {
     Q_OBJECT
 private slots:
+    void EachGridStyleSaysWhatItsSampleDraws() {
+        // Each grid style's tool tip names what its sample shows down the middle of a square: white before the
+        // grid colour is a raised square, the grid colour first a sunken one, no white flat squares in a grid.
+        StartedWindow s;
+        ui::Form2 form(s.g(), &s.window);
+        const QColor grid = ui::ToQColor(s.g().ColourTable[4]);
+        for (int i = 0; i < 3; ++i) {
+            const auto* button = form.findChild<QRadioButton*>(QString("Option3_%1").arg(i));
+            const QImage sample = button->icon().pixmap(button->iconSize()).toImage();
+            int white = -1, dark = -1;
+            for (int y = sample.height() - 1; y >= 0; --y) {
+                const QColor c = sample.pixelColor(sample.width() / 4, y);
+                if (c == Qt::white) white = y;
+                if (c == grid) dark = y;
+            }
+            const QString drawn = white < 0 ? "flat squares in a grid of lines" : white < dark ? "raised" : "sunken";
+            QVERIFY2(button->toolTip().contains(drawn), qPrintable(button->text() + ": " + button->toolTip()));
+        }
+    }
+
     void SymbolsWithAChosenPictureDrawThatPicture() {
         // A picture chosen for the Computer's symbol and applied draws the attackers at once and next run.
         Options s;
