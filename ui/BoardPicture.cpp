@@ -119,7 +119,11 @@ void BoardPicture::PaintOverlay(QPainter& p) {
     const QRect marker(markerAt_.x() - diameter / 2, markerAt_.y() - diameter / 2, diameter, diameter);
     if (dragging_ && carriedCode_ != -1) {
         p.setOpacity(0.75);
-        p.drawImage(marker, pictures_.Picture(carriedCode_, marker.size()));
+        // The marker carries the piece as the board draws it: its picture, or its colour block.
+        const int inset = diameter * 3 / 20;   // the block's corners inside the ring
+        const QRect block = marker.adjusted(inset, inset, -inset, -inset);
+        if (g_.ColourMode == 1) p.fillRect(block, SquareColours(g_, carriedCode_));
+        else p.drawImage(marker, pictures_.Picture(carriedCode_, marker.size()));
         p.setOpacity(1.0);
     }
     p.setPen(QPen(dark, 2));

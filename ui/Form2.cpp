@@ -97,16 +97,21 @@ QWidget* Form2::BuildSchemeAndStyle() {
         option3_[i]->setObjectName(QString("Option3_%1").arg(i));
         option3_[i]->setProperty("index", i);
         option3_[i]->setToolTip(StyleToolTips[i]);
-        // Each button shows the squares its style draws.
-        Game sample = g_;
-        sample.BoardStyle = i;
-        option3_[i]->setIcon(QPixmap::fromImage(SquareSample(sample, pictures_, 2, -1, 52)));
         option3_[i]->setIconSize(QSize(52, 52));
         styles->addButton(option3_[i], i);
         styleLayout->addWidget(option3_[i]);
     }
+    PaintStyleSamples();
 
     return Row({{Frame("Colour Scheme", schemeLayout), 1}, {Frame("Grid Style", styleLayout), 2}});
+}
+
+void Form2::PaintStyleSamples() {
+    for (int i = 0; i < 3; ++i) {
+        Game sample = g_;
+        sample.BoardStyle = i;
+        option3_[i]->setIcon(QPixmap::fromImage(SquareSample(sample, pictures_, 2, -1, 52)));
+    }
 }
 
 QWidget* Form2::BuildDrawing() {
@@ -162,6 +167,11 @@ QWidget* Form2::BuildSources() {
     file1_->setMinimumHeight(170);
     connect(file1_, &QListWidget::itemClicked, this, &Form2::ChooseFile);
     connect(file1_, &QListWidget::itemActivated, this, &Form2::ChooseFile);
+    // A file reached with the arrow keys is chosen as a clicked one is; the
+    // list's own moves (showing the chosen frame's file) happen unfocused.
+    connect(file1_, &QListWidget::currentItemChanged, this, [this](QListWidgetItem* item) {
+        if (file1_->hasFocus()) ChooseFile(item);
+    });
     fileNote_ = new QLabel;
     fileNote_->setObjectName("FileNote");
     auto* filesLayout = new QVBoxLayout;
@@ -306,6 +316,7 @@ void Form2::Apply() {
     // The dialog takes on the window's new colours too.
     if (parentWidget() != nullptr) setPalette(parentWidget()->palette());
     SetButtonColour(buttonColour_);
+    PaintStyleSamples();
 }
 
 void Form2::Default() {
