@@ -70,9 +70,10 @@ private slots:
                  box.palette().color(QPalette::Window)},
                 {"message buttons", box.Buttons().front()->palette().color(QPalette::ButtonText),
                  box.Buttons().front()->palette().color(QPalette::Button)}};
-            for (const auto& [what, text, back] : texts)
-                QVERIFY2(ui::Contrast(text, back) >= 4.5,
-                         qPrintable(QString::fromStdString(scheme) + " " + what + ": " + text.name() + " on " + back.name()));
+            for (const auto& [what, text, back] : texts) {
+                const QString where = QString::fromStdString(scheme) + " " + what + ": ";
+                QVERIFY2(ui::Contrast(text, back) >= 4.5, qPrintable(where + text.name() + " on " + back.name()));
+            }
         }
     }
 
@@ -90,8 +91,10 @@ private slots:
         s.Load("small.txt", LayoutText({"H...K.H", "..d....", ".......", ".......", "..a....", "..d.a..", "H.....H"}));
         for (const char* name : {"cmdGetDefenderRank", "cmdGetAttackerRank", "cmdRedRandom"})
             s.Find<QPushButton>(name)->click();
-        const QStringList panes{"List1A", "AttackerMovesRank", "List2A", "List1D", "DefenderMovesRank", "List2D", "List1"};
-        for (const QString& name : panes) QVERIFY2(s.Find<QListWidget>(qPrintable(name))->count() > 0, qPrintable(name));
+        const QStringList panes{"List1A", "AttackerMovesRank", "List2A", "List1D", "DefenderMovesRank", "List2D",
+                                "List1"};
+        for (const QString& name : panes)
+            QVERIFY2(s.Find<QListWidget>(qPrintable(name))->count() > 0, qPrintable(name));
         s.NextFile = "small.txt";
         s.questions.AnswerTo["Reset layout?"] = 6;
         for (const QString& name : presses) s.Press(qPrintable(name));
