@@ -16,6 +16,7 @@ class QGroupBox;
 class QLabel;
 class QListWidget;
 class QPushButton;
+class QSplitter;
 class QTimer;
 
 namespace jv::ui {
@@ -96,6 +97,8 @@ private:
     QWidget* BuildDebugPanel();
     void BuildMenus();
     QListWidget* AddList(ListId id, const char* name);
+    // Shares the width beside the commands: the board first, the lists the rest.
+    void GiveBoardTheRoom();
     QPushButton* AddButton(const char* name, const QString& caption, const QString& toolTip);
 
     // The commands (MainWindowCommands.cpp).
@@ -131,6 +134,7 @@ private:
     QCheckBox* check2_ = nullptr;
     QTimer* timer1_ = nullptr;
     QGroupBox* debugPanel_ = nullptr;
+    QSplitter* split_ = nullptr;
     QAction* debugToggle_ = nullptr;
     bool ended_ = false;
     int busy_ = 0;   // open busy sections

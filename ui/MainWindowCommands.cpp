@@ -7,6 +7,7 @@
 #include <QMouseEvent>
 #include <QPointer>
 #include <QPushButton>
+#include <QSplitter>
 
 #include "ai/AttackerRank.h"
 #include "ai/AttackerTactics.h"
@@ -105,6 +106,7 @@ void MainWindow::PreviewListMove(ListId id) {
 }
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == split_ && event->type() == QEvent::Resize) GiveBoardTheRoom();
     if (previewing_ && event->type() == QEvent::MouseButtonRelease) {
         previewing_ = false;
         EndListMovePreview(game_);

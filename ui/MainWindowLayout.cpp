@@ -17,6 +17,7 @@
 #include <QTabWidget>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "ui/BoardPicture.h"
 #include "ui/EditorPalette.h"
@@ -37,6 +38,7 @@ QWidget* Captioned(const QString& caption, QWidget* content, const QString& tool
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(2);
     auto* label = new QLabel(caption);
+    label->setWordWrap(true);   // a narrow column wraps the caption rather than cut it
     QFont bold = label->font();
     bold.setBold(true);
     label->setFont(bold);
@@ -68,15 +70,15 @@ void MainWindow::BuildWindow() {
     outer->setContentsMargins(8, 8, 8, 4);
     outer->setSpacing(6);
 
-    auto* split = new QSplitter(Qt::Horizontal);
-    split->setChildrenCollapsible(false);
-    split->addWidget(BuildBoardArea());
-    split->addWidget(BuildListsColumn());
-    split->setStretchFactor(0, 3);
-    split->setStretchFactor(1, 2);
+    split_ = new QSplitter(Qt::Horizontal);
+    split_->setObjectName("BoardAndLists");
+    split_->setChildrenCollapsible(false);
+    split_->addWidget(BuildBoardArea());
+    split_->addWidget(BuildListsColumn());
+    split_->installEventFilter(this);
 
     columns->addWidget(BuildCommandColumn());
-    columns->addWidget(split, 1);
+    columns->addWidget(split_, 1);
     outer->addLayout(columns, 1);
     outer->addWidget(BuildDebugPanel());
     setCentralWidget(centre);
@@ -87,6 +89,18 @@ void MainWindow::BuildWindow() {
         else statusBar()->showMessage(hint);
     });
     resize(1280, 820);
+}
+
+void MainWindow::GiveBoardTheRoom() {
+    // The board is square: it can use as much width as its area has height
+    // (with the palette beside it while the editor is on); the lists take
+    // what is left, within their bounds, and the board the rest.
+    constexpr int MinListsWidth = 240, MaxListsWidth = 520;
+    const int total = split_->width() - split_->handleWidth();
+    int boardWish = split_->height() + LabelMarginLeft;
+    if (picture2_->isVisible()) boardWish += picture2_->width() + 6;
+    const int lists = std::clamp(total - boardWish, MinListsWidth, MaxListsWidth);
+    split_->setSizes({total - lists, lists});
 }
 
 QPushButton* MainWindow::AddButton(const char* name, const QString& caption, const QString& toolTip) {

@@ -145,6 +145,7 @@ void MainWindow::ShowEditor(bool visible) {
     const bool closing = !visible && !picture2_->isHidden();
     if (visible) picture2_->Paint();
     picture2_->setVisible(visible);
+    GiveBoardTheRoom();
     if (closing) picture_->DrawBoard();
     findChild<QPushButton*>("cmdedit")->setText(visible ? "Play Layout" : "Edit Layout");
     if (visible) statusBar()->showMessage("Layout editor: choose a kind beside the board, then click squares");
