@@ -89,6 +89,8 @@ private slots:
         QVERIFY(s.Configuration().find("\r\nmagenta.bmp\r\n") != std::string::npos);
         ui::MainWindow again(s.folder.Path());
         again.Start();
+        again.show();   // the board is drawn at its first paint
+        QVERIFY(QTest::qWaitForWindowExposed(&again));
         QCOMPARE(again.Board()->Pixmap().toImage().pixelColor(again.Board()->SquareCentre(1, 6)), Magenta);
     }
 
