@@ -55,16 +55,13 @@ private slots:
         StartedWindow s;
         ui::Form2 form(s.g(), &s.window);
         const QColor grid = ui::ToQColor(s.g().ColourTable[4]);
-        for (int i = 0; i < 3; ++i) {
-            const auto* button = form.findChild<QRadioButton*>(QString("Option3_%1").arg(i));
+        for (const auto* button : form.findChildren<QRadioButton*>(QRegularExpression("Option3_"))) {
             const QImage sample = button->icon().pixmap(button->iconSize()).toImage();
-            int white = -1, dark = -1;
-            for (int y = sample.height() - 1; y >= 0; --y) {
-                const QColor c = sample.pixelColor(sample.width() / 4, y);
-                if (c == Qt::white) white = y;
-                if (c == grid) dark = y;
-            }
-            const QString drawn = white < 0 ? "flat squares in a grid of lines" : white < dark ? "raised" : "sunken";
+            QString edges;   // down the middle of the first squares: w white, g the grid colour
+            for (int y = 0; y < sample.height(); ++y)
+                if (const QColor c = sample.pixelColor(sample.width() / 4, y); c == Qt::white || c == grid)
+                    edges += c == Qt::white ? "w" : "g";
+            const char* drawn = !edges.contains('w') ? "flat squares in a grid" : edges[0] == 'w' ? "raised" : "sunken";
             QVERIFY2(button->toolTip().contains(drawn), qPrintable(button->text() + ": " + button->toolTip()));
         }
     }
@@ -102,8 +99,7 @@ private slots:
             for (const char* name : {"Option3_1", "Check1", "Image3"}) s.Press(name);
             s.ChooseFile("king1.ico");
             s.Control<ColourPicker>("ColPik1")->Slider(0)->setValue(200);
-            s.Press("cmdadjust4");
-            s.Press("Command1");
+            for (const char* name : {"cmdadjust4", "Command1"}) s.Press(name);
         });
         Game& g = s.window.game();
         QVERIFY(std::tie(g.SchemeFile, g.BoardStyle, g.ShowLabels, g.PictureFiles[3]) ==
@@ -134,11 +130,11 @@ private slots:
             s.ChooseFile("home1.ico");
             s.Press("cmdadjust4");
         });
-        const Game& g = s.window.game();
-        QVERIFY(std::tie(g.SchemeFile, g.BoardStyle, g.ShowLabels, g.ColourMode, g.PictureFiles, g.PieceColours,
-                         g.ColourTable) == std::tie(before.SchemeFile, before.BoardStyle, before.ShowLabels,
-                                                    before.ColourMode, before.PictureFiles, before.PieceColours,
-                                                    before.ColourTable));
+        const auto settings = [](const Game& g) {
+            return std::tie(g.SchemeFile, g.BoardStyle, g.ShowLabels, g.ColourMode, g.PictureFiles, g.PieceColours,
+                            g.ColourTable);
+        };
+        QVERIFY(settings(s.window.game()) == settings(before));
         QCOMPARE(s.window.Board()->Pixmap().toImage(), board);
     }
 
@@ -148,9 +144,7 @@ private slots:
         ColourPicker picker;
         picker.show();
         QSignalSpy reported(&picker, &ColourPicker::ColourChanged);
-        picker.Slider(0)->setValue(200);
-        picker.Slider(1)->setValue(64);
-        picker.Slider(2)->setValue(9);
+        for (int i = 0; i < 3; ++i) picker.Slider(i)->setValue(std::array{200, 64, 9}[i]);
         QTest::keyClick(picker.Slider(2), Qt::Key_Right);   // one step up with the keyboard
         QCOMPARE(picker.Preview()->palette().color(QPalette::Window), QColor(200, 64, 10));
         QCOMPARE(reported.size(), 4);
