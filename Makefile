@@ -6,7 +6,7 @@ FUZZ_SECONDS ?= 60
 # How many moves `make soak` plays on each shipped layout.
 SOAK_MOVES ?= 10000
 
-.PHONY: deps configure build run test test-asan fuzz bench soak clean
+.PHONY: deps configure build run test test-asan fuzz bench soak package clean
 
 deps:
 	@scripts/install-deps.sh
@@ -56,6 +56,13 @@ soak: deps
 	@cmake --build --preset release --target jarlsvakt-cli
 	@build/release/bin/jarlsvakt-cli soak patf.txt pattern1.txt pattern2.txt pattern3.txt pattern4.txt \
 		pattern5.txt --moves $(SOAK_MOVES) --log build/soak
+
+# The optimised programs as a Debian package, build/release/jarlsvakt_*.deb,
+# whose dependencies pull in the Qt libraries.
+package: deps
+	@cmake --preset release >/dev/null
+	@cmake --build --preset release --target jarlsvakt jarlsvakt-cli jarlsvakt_data
+	@cd build/release && cpack
 
 clean:
 	rm -rf build

@@ -44,8 +44,10 @@ std::string MovesLogFileName(const ClockReading& now) {
 }
 
 void RecordingSwitch(Game& g, bool ticked) {
-    g.Check2 = ticked;
+    // While the layout editor is on the switch does nothing, so the box
+    // keeps its state: a tick there would promise a log nobody writes.
     if (g.EditorOn) return;
+    g.Check2 = ticked;
     if (ticked) {
         if (!g.Clock) g.Clock = SystemClock;
         g.MovesLogFile = MovesLogFileName(g.Clock());

@@ -9,7 +9,8 @@ namespace jv {
 // "moveslogfile" MMDDhhmm ".txt" for the given moment.
 std::string MovesLogFileName(const ClockReading& now);
 
-// The recording switch Check2 after the user has changed it to ticked.
+// The recording switch Check2 after the user has changed it to ticked;
+// while the layout editor is on it stays as it was.
 void RecordingSwitch(Game& g, bool ticked);
 
 // Steps through positions given as layout lines (a moves log, or the

@@ -20,12 +20,14 @@ void BoardPicture::EditorPress(Square square) {
     sweeping_ = true;
     placed_ = square;
     if (square.Col != -1) emit EditorSquarePressed(square.Col, square.Row);
+    RefreshHint(square);
 }
 
 void BoardPicture::EditorSweep(Square square) {
     if (!sweeping_ || square.Col == -1 || (square.Col == placed_.Col && square.Row == placed_.Row)) return;
     placed_ = square;
     emit EditorSquarePressed(square.Col, square.Row);
+    RefreshHint(square);
 }
 
 }  // namespace jv::ui

@@ -7,11 +7,13 @@
 #include "core/VbText.h"
 #include "ui/ColourValue.h"
 #include "ui/Surface.h"
+#include "ui/WindowColours.h"
 
 namespace jv::ui {
 
 QColor BoardBackColour(const Game& g) { return ToQColor(BoardBackColourValue(g)); }
 QColor GridColour(const Game& g) { return ToQColor(g.ColourTable[4]); }
+QColor LabelColour(const Game& g) { return ReadableOn(GridColour(g), BoardBackColour(g)); }
 QColor SquareColours(const Game& g, int drawCode) { return ToQColor(SquareColour(g, drawCode)); }
 QColor MoveMarkColour(const Game& g) { return ToQColor(g.ColourTable[10]); }
 QColor VictimMarkColour(const Game& g) { return ToQColor(g.ColourTable[9]); }
@@ -82,12 +84,12 @@ void PrintLabels(Surface& s, const BoardCanvas& c) {
     const double size = geo.SquareSize;
     for (int n = 1; n <= g.BoardHeight; ++n) {
         const double x = geo.Left(1, n) + (n > 9 ? size / 6 : size / 2.5);
-        s.Print(Whole(x), Whole(geo.Top(1, 1) - 1.1 * d), QString::number(n), GridColour(g));
+        s.Print(Whole(x), Whole(geo.Top(1, 1) - 1.1 * d), QString::number(n), LabelColour(g));
     }
     for (int n = 1; n <= g.BoardWidth; ++n) {
         const double x = geo.Left(1, 1) - (n > 9 ? 1.5 * d : d);
         s.Print(Whole(x), Whole(geo.Top(n, 1) + size / 3),
-                QString::fromStdString(g.ColumnLetters[std::clamp(n, 1, 16)]), GridColour(g));
+                QString::fromStdString(g.ColumnLetters[std::clamp(n, 1, 16)]), LabelColour(g));
     }
 }
 

@@ -11,7 +11,8 @@ namespace jv::ui {
 
 // The colours of the board, from the colour table.
 QColor BoardBackColour(const Game& g);     // entry 2: background and empty squares
-QColor GridColour(const Game& g);          // entry 4: grid lines, dark edges, labels
+QColor GridColour(const Game& g);          // entry 4: grid lines, dark edges
+QColor LabelColour(const Game& g);         // the grid colour, made readable on the board's background
 QColor SquareColours(const Game& g, int drawCode);   // the four piece colours by draw code
 QColor MoveMarkColour(const Game& g);      // entry 10: the last move
 QColor VictimMarkColour(const Game& g);    // entry 9: a piece about to be taken

@@ -35,10 +35,22 @@ bool BoardPicture::FitToWidget() {
 }
 
 void BoardPicture::DrawBoard() {
+    // Until the picture is on screen, the start-up's loads, settings and
+    // first layouts only ask for it: it is drawn once, at its first paint,
+    // at the size it has then.
+    if (!isVisible()) {
+        drawPending_ = true;
+        return;
+    }
+    Redraw();
+    update();
+}
+
+void BoardPicture::Redraw() {
+    drawPending_ = false;
     pictures_.Load(g_);
     FitToWidget();
     ui::DrawBoard({Shown(), geometry_, pictures_, pixmap_});
-    update();
 }
 
 void BoardPicture::DrawSquare(int a, int b, const QColor& colour) {
@@ -91,10 +103,16 @@ void BoardPicture::HighlightReach(int a, int b) {
 
 void BoardPicture::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
-    if (g_.BoardWidth > 0 && FitToWidget()) DrawBoard();
+    // The window's layout may resize the picture several times before it
+    // shows: the board is drawn at the next paint, at the last size.
+    if (g_.BoardWidth > 0 && FitToWidget()) {
+        drawPending_ = true;
+        update();
+    }
 }
 
 void BoardPicture::paintEvent(QPaintEvent*) {
+    if (drawPending_) Redraw();
     QPainter p(this);
     if (pixmap_.isNull() || pixmap_.size() != size()) p.fillRect(rect(), BoardBackColour(g_));
     if (!pixmap_.isNull()) p.drawPixmap(0, 0, pixmap_);
@@ -119,7 +137,11 @@ void BoardPicture::PaintOverlay(QPainter& p) {
     const QRect marker(markerAt_.x() - diameter / 2, markerAt_.y() - diameter / 2, diameter, diameter);
     if (dragging_ && carriedCode_ != -1) {
         p.setOpacity(0.75);
-        p.drawImage(marker, pictures_.Picture(carriedCode_, marker.size()));
+        // The marker carries the piece as the board draws it: its picture, or its colour block.
+        const int inset = diameter * 3 / 20;   // the block's corners inside the ring
+        const QRect block = marker.adjusted(inset, inset, -inset, -inset);
+        if (g_.ColourMode == 1) p.fillRect(block, SquareColours(g_, carriedCode_));
+        else p.drawImage(marker, pictures_.Picture(carriedCode_, marker.size()));
         p.setOpacity(1.0);
     }
     p.setPen(QPen(dark, 2));

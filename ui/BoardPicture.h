@@ -59,8 +59,12 @@ private:
     // Rebuilds the geometry and the pixmap when the widget or the board
     // changed size; true when it did.
     bool FitToWidget();
+    // Draws the whole board into the pixmap.
+    void Redraw();
     Square SquareUnder(QPoint position) const;
     void ShowHint(Square square);
+    // The hint again after the square's content changed under the pointer.
+    void RefreshHint(Square square);
     void HighlightReach(int a, int b);
     void PaintOverlay(QPainter& p);
 
@@ -76,6 +80,7 @@ private:
     PiecePictures pictures_;
     int fittedWidth_ = -1, fittedHeight_ = -1, fittedLabels_ = -1;
     int boardWidth_ = -1, boardHeight_ = -1;
+    bool drawPending_ = false;   // asked to draw while hidden
 
     // The drag line and its marker, in widget pixels.
     bool lineVisible_ = false;

@@ -24,6 +24,11 @@ void BoardPicture::ShowHint(Square square) {
     emit HintChanged(hint);
 }
 
+void BoardPicture::RefreshHint(Square square) {
+    hinted_ = Square{};
+    ShowHint(square);
+}
+
 void BoardPicture::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton || dragging_) return;
     const Square square = SquareUnder(event->position().toPoint());
@@ -58,6 +63,7 @@ void BoardPicture::mouseReleaseEvent(QMouseEvent* event) {
     // The full repaint takes the reach highlight away before the move is drawn.
     DrawBoard();
     EndDrag(g_, square.Col, square.Row);
+    RefreshHint(square);
     update();
 }
 

@@ -31,6 +31,10 @@ namespace {
 const char* const FrameCaptions[4] = {"User", "Computer", "Home", "King"};
 // The grid styles by button index, which is the BoardStyle they set.
 const char* const StyleCaptions[3] = {"Sunk", "Raised", "Flat"};
+// What each style draws, in plain words: the captions are kept for the
+// configuration's sake, the tool tips say what the player sees.
+const char* const StyleToolTips[3] = {"Draws flat squares in a grid of lines", "Draws raised squares",
+                                      "Draws sunken squares"};
 
 QString SchemeName(const std::string& schemeFile) {
     const QString name = QString::fromStdString(schemeFile);
@@ -92,16 +96,22 @@ QWidget* Form2::BuildSchemeAndStyle() {
         option3_[i] = new QRadioButton(StyleCaptions[i]);
         option3_[i]->setObjectName(QString("Option3_%1").arg(i));
         option3_[i]->setProperty("index", i);
-        // Each button shows the squares its style draws.
-        Game sample = g_;
-        sample.BoardStyle = i;
-        option3_[i]->setIcon(QPixmap::fromImage(SquareSample(sample, pictures_, 2, -1, 52)));
+        option3_[i]->setToolTip(StyleToolTips[i]);
         option3_[i]->setIconSize(QSize(52, 52));
         styles->addButton(option3_[i], i);
         styleLayout->addWidget(option3_[i]);
     }
+    PaintStyleSamples();
 
     return Row({{Frame("Colour Scheme", schemeLayout), 1}, {Frame("Grid Style", styleLayout), 2}});
+}
+
+void Form2::PaintStyleSamples() {
+    for (int i = 0; i < 3; ++i) {
+        Game sample = g_;
+        sample.BoardStyle = i;
+        option3_[i]->setIcon(QPixmap::fromImage(SquareSample(sample, pictures_, 2, -1, 52)));
+    }
 }
 
 QWidget* Form2::BuildDrawing() {
@@ -157,6 +167,11 @@ QWidget* Form2::BuildSources() {
     file1_->setMinimumHeight(170);
     connect(file1_, &QListWidget::itemClicked, this, &Form2::ChooseFile);
     connect(file1_, &QListWidget::itemActivated, this, &Form2::ChooseFile);
+    // A file reached with the arrow keys is chosen as a clicked one is; the
+    // list's own moves (showing the chosen frame's file) happen unfocused.
+    connect(file1_, &QListWidget::currentItemChanged, this, [this](QListWidgetItem* item) {
+        if (file1_->hasFocus()) ChooseFile(item);
+    });
     fileNote_ = new QLabel;
     fileNote_->setObjectName("FileNote");
     auto* filesLayout = new QVBoxLayout;
@@ -301,6 +316,7 @@ void Form2::Apply() {
     // The dialog takes on the window's new colours too.
     if (parentWidget() != nullptr) setPalette(parentWidget()->palette());
     SetButtonColour(buttonColour_);
+    PaintStyleSamples();
 }
 
 void Form2::Default() {

@@ -60,6 +60,9 @@ private:
     void ShowSettings();
     void FillFileList();
     void ChooseFile(QListWidgetItem* item);
+    // Each grid style button shows the squares its style draws, in the
+    // colours in use.
+    void PaintStyleSamples();
 
     void SetSymbol(int frame, const QString& fileName);
     void SetFrameColour(int frame, const QColor& colour);

@@ -56,7 +56,8 @@ void MainWindow::ApplyWindowColours() {
     // The event log tells the sides apart: the King's and the program's own
     // lines, the defenders' lines, the attackers' lines.
     constexpr int Entry[3] = {8, 6, 7};
-    for (int n = 0; n <= 2; ++n) eventLog_->SetLineColour(n, ToQColor(game_.ColourTable[Entry[n]]));
+    const QColor back = ToQColor(game_.ColourTable[12]);
+    for (int n = 0; n <= 2; ++n) eventLog_->SetLineColour(n, ReadableOn(ToQColor(game_.ColourTable[Entry[n]]), back));
 }
 
 void MainWindow::EndNow() {

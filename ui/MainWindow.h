@@ -16,6 +16,7 @@ class QGroupBox;
 class QLabel;
 class QListWidget;
 class QPushButton;
+class QSplitter;
 class QTimer;
 
 namespace jv::ui {
@@ -64,6 +65,7 @@ public:
     void ShowDragLine(const Move& m) override;
     void HideDragLine() override;
     void PrintLine(const std::string& text, int colour, int background) override;
+    // Clears the event log and, as a game starts, the reasoning panes.
     void ClearLog() override;
     void Pause(int ms) override;
     void DoEvents() override;
@@ -99,6 +101,8 @@ private:
     // the hint.
     QWidget* BuildPlayerChoice();
     void ShowPlayers();
+    // Shares the width beside the commands: the board first, the lists the rest.
+    void GiveBoardTheRoom();
     QPushButton* AddButton(const char* name, const QString& caption, const QString& toolTip);
 
     // The commands (MainWindowCommands.cpp).
@@ -134,6 +138,7 @@ private:
     QCheckBox* check2_ = nullptr;
     QTimer* timer1_ = nullptr;
     QGroupBox* debugPanel_ = nullptr;
+    QSplitter* split_ = nullptr;
     QAction* debugToggle_ = nullptr;
     bool ended_ = false;
     int busy_ = 0;   // open busy sections

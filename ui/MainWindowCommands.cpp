@@ -8,6 +8,7 @@
 #include <QMouseEvent>
 #include <QPointer>
 #include <QPushButton>
+#include <QSplitter>
 
 #include "ai/AttackerRank.h"
 #include "ai/AttackerTactics.h"
@@ -131,6 +132,7 @@ void MainWindow::ShowPlayers() {
 }
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == split_ && event->type() == QEvent::Resize) GiveBoardTheRoom();
     if (previewing_ && event->type() == QEvent::MouseButtonRelease) {
         previewing_ = false;
         EndListMovePreview(game_);

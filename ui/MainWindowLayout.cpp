@@ -18,24 +18,29 @@
 #include <QTabWidget>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "records/PlayerSettings.h"
 #include "ui/BoardPicture.h"
 #include "ui/EditorPalette.h"
 #include "ui/MainWindow.h"
+#include "ui/widgets/ElidedLabel.h"
 #include "ui/widgets/LineList.h"
 
 namespace jv::ui {
 
 namespace {
 
-// A list with a caption above it, as one widget.
+// A list with a caption above it, as one widget; the tool tip, on both,
+// says what its lines mean.
 QWidget* Captioned(const QString& caption, QWidget* content, const QString& toolTip = {}) {
+    content->setToolTip(toolTip);
     auto* box = new QWidget;
     auto* layout = new QVBoxLayout(box);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(2);
     auto* label = new QLabel(caption);
+    label->setWordWrap(true);   // a narrow column wraps the caption rather than cut it
     QFont bold = label->font();
     bold.setBold(true);
     label->setFont(bold);
@@ -67,15 +72,15 @@ void MainWindow::BuildWindow() {
     outer->setContentsMargins(8, 8, 8, 4);
     outer->setSpacing(6);
 
-    auto* split = new QSplitter(Qt::Horizontal);
-    split->setChildrenCollapsible(false);
-    split->addWidget(BuildBoardArea());
-    split->addWidget(BuildListsColumn());
-    split->setStretchFactor(0, 3);
-    split->setStretchFactor(1, 2);
+    split_ = new QSplitter(Qt::Horizontal);
+    split_->setObjectName("BoardAndLists");
+    split_->setChildrenCollapsible(false);
+    split_->addWidget(BuildBoardArea());
+    split_->addWidget(BuildListsColumn());
+    split_->installEventFilter(this);
 
     columns->addWidget(BuildCommandColumn());
-    columns->addWidget(split, 1);
+    columns->addWidget(split_, 1);
     outer->addLayout(columns, 1);
     outer->addWidget(BuildDebugPanel());
     setCentralWidget(centre);
@@ -86,6 +91,18 @@ void MainWindow::BuildWindow() {
         else statusBar()->showMessage(hint);
     });
     resize(1280, 820);
+}
+
+void MainWindow::GiveBoardTheRoom() {
+    // The board is square: it can use as much width as its area has height
+    // (with the palette beside it while the editor is on); the lists take
+    // what is left, within their bounds, and the board the rest.
+    constexpr int MinListsWidth = 240, MaxListsWidth = 520;
+    const int total = split_->width() - split_->handleWidth();
+    int boardWish = split_->height() + LabelMarginLeft;
+    if (picture2_->isVisible()) boardWish += picture2_->width() + 6;
+    const int lists = std::clamp(total - boardWish, MinListsWidth, MaxListsWidth);
+    split_->setSizes({total - lists, lists});
 }
 
 QPushButton* MainWindow::AddButton(const char* name, const QString& caption, const QString& toolTip) {
@@ -129,9 +146,8 @@ QWidget* MainWindow::BuildCommandColumn() {
 
     auto* status = new QGroupBox("Position");
     auto* statusLayout = new QGridLayout(status);
-    layoutName_ = new QLabel;
+    layoutName_ = new ElidedLabel;
     layoutName_->setObjectName("LayoutName");
-    layoutName_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     statusLayout->addWidget(new QLabel("Layout:"), 0, 0);
     statusLayout->addWidget(layoutName_, 0, 1);
     const char* counterNames[2] = {"ptot0", "ptot1"};
@@ -226,18 +242,32 @@ QWidget* MainWindow::BuildListsColumn() {
 
     auto* tabs = new QTabWidget;
     tabs->setObjectName("ListTabs");
-    tabs->addTab(Stack({Captioned("Ranked moves (score, defender score, from > to)", AddList(ListId::List1A, "List1A"),
-                                  "Press a line to see its move on the board"),
-                        Captioned("Plan", AddList(ListId::AttackerMovesRank, "AttackerMovesRank")),
-                        Captioned("Moves tried (to <from)", AddList(ListId::List2A, "List2A")),
-                        Captioned("Best, tied (to from score)", AddList(ListId::List3, "List3"))}),
-                 "Attackers");
-    tabs->addTab(Stack({Captioned("Ranked moves", AddList(ListId::List1D, "List1D"),
-                                  "Press a line to see its move on the board"),
-                        Captioned("Rules fired", AddList(ListId::DefenderMovesRank, "DefenderMovesRank")),
-                        Captioned("Candidates", AddList(ListId::List2D, "List2D"))}),
+    tabs->addTab(
+        Stack({Captioned("Ranked moves (score, defender score, from > to)", AddList(ListId::List1A, "List1A"),
+                         "Every attacker move weighed, best first. The first number is its score: the lower, "
+                         "the better for the attackers. The second is the defenders' best answer to it. "
+                         "Press a line to see its move on the board."),
+               Captioned("Plan (bonus, goal)", AddList(ListId::AttackerMovesRank, "AttackerMovesRank"),
+                         "The goals of the attackers' plan, each with its bonus: a move onto a goal's squares "
+                         "scores that much lower, that is better."),
+               Captioned("Moves tried (to <from)", AddList(ListId::List2A, "List2A"),
+                         "Every attacker move tried: the square it goes to, then the square it comes from."),
+               Captioned("Best, tied (to from score)", AddList(ListId::List3, "List3"),
+                         "The ranked moves sharing the best score; the computer plays one of them.")}),
+        "Attackers");
+    tabs->addTab(Stack({Captioned("Ranked moves (99999 - score, score, from > to)", AddList(ListId::List1D, "List1D"),
+                                  "Every defender move weighed, best first. The first number is 99999 minus its "
+                                  "score, so that the best comes first; the second is the score: the higher, the "
+                                  "better for the defenders. Press a line to see its move on the board."),
+                        Captioned("Rules fired (points, rule)", AddList(ListId::DefenderMovesRank, "DefenderMovesRank"),
+                                  "The defenders' rules that scored squares: the points each adds to its squares."),
+                        Captioned("Candidates (score, to <from)", AddList(ListId::List2D, "List2D"),
+                                  "Every defender move to a scored square: the square's score, the square it goes "
+                                  "to, then the square it comes from.")}),
                  "Defenders");
-    tabs->addTab(Captioned("Random mover (draw from>to)", AddList(ListId::List1, "List1")), "Random");
+    tabs->addTab(Captioned("Random mover (draw from>to)", AddList(ListId::List1, "List1"),
+                           "Every move of the side behind its random draw, smallest draw first: from > to."),
+                 "Random");
     tabs->addTab(Captioned("Depth, score (defenders' view, in pieces), million nodes a second, expected line",
                            AddList(ListId::SearchLines, "SearchLines"),
                            "The strong player's thinking, deepest first: press a line to see its first move"),
@@ -289,6 +319,10 @@ void MainWindow::BuildMenus() {
     debugToggle_ = add(view, "mnudebug", "&Debug Buttons", QKeySequence("Ctrl+D"));
     debugToggle_->setCheckable(true);
     connect(debugToggle_, &QAction::toggled, debugPanel_, &QWidget::setVisible);
+    QAction* reasoning = add(view, "mnureasoning", "&Reasoning Panes", QKeySequence("Ctrl+R"));
+    reasoning->setCheckable(true);
+    reasoning->setChecked(true);
+    connect(reasoning, &QAction::toggled, findChild<QWidget*>("ListTabs"), &QWidget::setVisible);
 
     QMenu* options = menuBar()->addMenu("&Options");
     add(options, "mnuoptions", "&Options...");

@@ -16,6 +16,7 @@
 #include "ui/MainWindow.h"
 #include "ui/MsgForm.h"
 #include "ui/UndoLine.h"
+#include "ui/WindowColours.h"
 #include "ui/widgets/FileNameDialog.h"
 #include "ui/widgets/LineList.h"
 #include "ui/widgets/RedrawGuard.h"
@@ -55,7 +56,14 @@ void MainWindow::PrintLine(const std::string& text, int colour, int background) 
     eventLog_->PrintLine(QString::fromStdString(text), colour, background);
 }
 
-void MainWindow::ClearLog() { eventLog_->clear(); }
+void MainWindow::ClearLog() {
+    eventLog_->clear();
+    // The log is cleared as a game starts: the reasoning shown for the game
+    // before (another board, perhaps) goes with it, while the lists the
+    // computer players read stay theirs.
+    for (auto& [id, list] : lists_)
+        if (id != ListId::Undo) list->clear();
+}
 
 void MainWindow::Pause(int ms) {
     if (game_.Ending) return;
@@ -76,9 +84,9 @@ int MainWindow::Show(const std::string& text, const std::string& style) {
     if (ended_) return MsgForm::ClosedAnswer;
     if (Answerer) return Answerer(text, style);
     MsgForm form(this);
-    QPalette palette = form.palette();
-    palette.setColor(QPalette::Window, ToQColor(game_.ColourTable[12]));
-    form.setPalette(palette);
+    // Before a scheme is loaded (the message that "all.col" is missing) the
+    // box keeps the desktop's own readable colours.
+    if (coloursApplied_) ColourMessageBox(form, appliedColours_);
     // A question waits for the user: the ordinary pointer, even mid-move.
     const bool busy = busy_ > 0;
     if (busy) QApplication::setOverrideCursor(Qt::ArrowCursor);
@@ -138,6 +146,7 @@ void MainWindow::ShowEditor(bool visible) {
     const bool closing = !visible && !picture2_->isHidden();
     if (visible) picture2_->Paint();
     picture2_->setVisible(visible);
+    GiveBoardTheRoom();
     if (closing) picture_->DrawBoard();
     findChild<QPushButton*>("cmdedit")->setText(visible ? "Play Layout" : "Edit Layout");
     if (visible) statusBar()->showMessage("Layout editor: choose a kind beside the board, then click squares");

@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "ui/MsgPictures.h"
 #include "ui/MsgStyle.h"
@@ -64,8 +65,7 @@ MsgForm::MsgForm(QWidget* parent) : QDialog(parent) {
     text_->setObjectName("Label1");
     text_->setTextFormat(Qt::PlainText);
     text_->setWordWrap(true);
-    text_->setMinimumWidth(220);
-    text_->setMaximumWidth(520);
+    text_->setMaximumWidth(MaxTextWidth);
     text_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     body->addWidget(text_, 1, Qt::AlignVCenter);
 
@@ -85,6 +85,12 @@ void MsgForm::Prepare(const std::string& text, const std::string& style) {
     QString shown = QString::fromStdString(text);
     shown.replace("\r\n", "\n");
     text_->setText(shown);
+    // The box is as wide as its longest line, up to a readable width, so a
+    // file name stays on the line of its words.
+    int widest = 0;
+    for (const QString& line : shown.split('\n'))
+        widest = std::max(widest, text_->fontMetrics().horizontalAdvance(line));
+    text_->setMinimumWidth(std::clamp(widest + 2, MinTextWidth, MaxTextWidth));
     for (QLabel* icon : icons_) icon->hide();
     for (MsgFormButton* button : buttons_) delete button;
     buttons_.clear();

@@ -48,6 +48,8 @@ public:
     QString Text() const;
 
 private:
+    static constexpr int MinTextWidth = 220;
+    static constexpr int MaxTextWidth = 640;
     QLabel* text_;
     std::vector<QLabel*> icons_;
     QHBoxLayout* buttonRow_;

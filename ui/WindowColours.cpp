@@ -3,15 +3,41 @@
 #include <QPalette>
 #include <QPushButton>
 #include <QWidget>
+#include <algorithm>
+#include <cmath>
 
 #include "ui/ColourValue.h"
 
 namespace jv::ui {
 
+namespace {
+
+double Luminance(const QColor& c) {
+    const auto linear = [](double v) { return v <= 0.03928 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4); };
+    return 0.2126 * linear(c.redF()) + 0.7152 * linear(c.greenF()) + 0.0722 * linear(c.blueF());
+}
+
+const QColor NearBlack(20, 20, 20), NearWhite(245, 245, 245);
+
+}  // namespace
+
+double Contrast(const QColor& a, const QColor& b) {
+    const double x = Luminance(a), y = Luminance(b);
+    return (std::max(x, y) + 0.05) / (std::min(x, y) + 0.05);
+}
+
 QColor TextColourOn(const QColor& background) {
-    const double luminance =
-        0.299 * background.redF() + 0.587 * background.greenF() + 0.114 * background.blueF();
-    return luminance > 0.5 ? QColor(20, 20, 20) : QColor(245, 245, 245);
+    return Contrast(NearBlack, background) >= Contrast(NearWhite, background) ? NearBlack : NearWhite;
+}
+
+QColor ReadableOn(const QColor& colour, const QColor& background) {
+    const QColor end = Contrast(Qt::black, background) >= Contrast(Qt::white, background) ? Qt::black : Qt::white;
+    QColor shown = colour;
+    for (double part = 0.05; Contrast(shown, background) < ReadableContrast && part <= 1.0; part += 0.05)
+        shown = QColor::fromRgbF(colour.redF() + (end.redF() - colour.redF()) * part,
+                                 colour.greenF() + (end.greenF() - colour.greenF()) * part,
+                                 colour.blueF() + (end.blueF() - colour.blueF()) * part);
+    return shown;
 }
 
 void ApplyColourTable(QWidget& window, const std::array<std::int32_t, 14>& table) {
@@ -41,6 +67,19 @@ void ApplyColourTable(QWidget& window, const std::array<std::int32_t, 14>& table
 
 QColor CommandButtonColour(const std::array<std::int32_t, 14>& table) {
     return ToQColor(table[13] != 0 ? table[13] : table[1]);
+}
+
+void ColourMessageBox(QWidget& box, const std::array<std::int32_t, 14>& table) {
+    const QColor back = ToQColor(table[12]);
+    const QColor face = CommandButtonColour(table);
+    QPalette palette = box.palette();
+    for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+        palette.setColor(group, QPalette::Window, back);
+        palette.setColor(group, QPalette::WindowText, TextColourOn(back));
+        palette.setColor(group, QPalette::Button, face);
+        palette.setColor(group, QPalette::ButtonText, TextColourOn(face));
+    }
+    box.setPalette(palette);
 }
 
 void ColourCommandButtons(QWidget& root, const QColor& face) {

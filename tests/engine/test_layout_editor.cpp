@@ -74,7 +74,7 @@ TEST(LayoutEditor, CommandsDoNothingWhileTheEditorIsOn) {
     RecordingSwitch(t.g, true);
     EXPECT_TRUE(t.view.Calls.empty());
     EXPECT_EQ(LayoutLine(t.g), Seven);
-    EXPECT_TRUE(t.g.Undo.size() == 1 && t.g.MovesLogFile.empty());
+    EXPECT_TRUE(t.g.Undo.size() == 1 && t.g.MovesLogFile.empty() && !t.g.Check2);
 }
 
 TEST(LayoutEditor, AnUnwritableFolderKeepsTheEditorOpen) {

@@ -50,6 +50,7 @@ private slots:
         for (const char* name : {"cmdload", "cmdsave", "cmdreset", "cmdundo", "Check2"}) s.Press(name);
         for (const char* name : {"mnuloadgame", "mnusavegame", "mnuresetgame"}) s.Find<QAction>(name)->trigger();
         QVERIFY(s.questions.Asked.empty() && filesChosen == 0 && s.g().MovesLogFile.empty());
+        QVERIFY(!s.Find("Check2")->isChecked());   // no tick promising a log nobody writes
         QVERIFY(s.palette()->isVisible());
         QCOMPARE(s.Find<QListWidget>("Undo")->count(), static_cast<int>(undoEntries));
         QCOMPARE(EncodePosition(s.g()), position);
@@ -62,6 +63,7 @@ private slots:
         const QColor attacker = s.At(1, 6), defender = s.At(5, 6);   // as the narrower board shows them
         s.Click(3, 3);
         QVERIFY(s.g().EditorGrid(3, 3) == AttackerCode && s.g().Board(3, 3) == EmptyCode && s.At(3, 3) == attacker);
+        QVERIFY(s.window.statusBar()->currentMessage().endsWith(": attacker"));   // the line under the board too
         s.Click(1, 1);
         QCOMPARE(s.g().EditorGrid(1, 1), HomeCode);
 

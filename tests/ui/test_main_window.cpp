@@ -1,6 +1,11 @@
 // The main window: start-up, and the program's end by the exit command or the frame, also from inside the
 // automatic game.
 #include "WindowFixture.h"
+#include "records/ColourScheme.h"
+#include "ui/BoardPainter.h"
+#include "ui/MsgForm.h"
+#include "ui/WindowColours.h"
+#include "ui/widgets/LineList.h"
 
 using namespace jv;
 using namespace jv::uitest;
@@ -22,18 +27,69 @@ private slots:
         QVERIFY(s.At(6, 6) != s.At(3, 3));   // the King drawn
     }
 
-    void WithoutAllColTheProgramEnds() {
-        // Without "all.col" the program says so and ends before the window is usable; nothing is written.
+    void WithoutAllColTheProgramEndsWithAReadableMessage() {
+        // Without "all.col" the program says so, readably although no scheme has coloured the box, and ends
+        // before the window is usable; nothing is written.
         ProgramFolder folder(false);
         ui::MainWindow window(folder.Path());
-        Questions questions;
-        questions.AnswerFor(window);
-        QVERIFY(!window.Start() && window.Ended());
-        QCOMPARE(questions.Asked.size(), std::size_t(1));
-        QCOMPARE(questions.Asked[0].first,
-                 std::string("File: all.col is missing\r\nProgram cannot run without this file"));
-        QCOMPARE(questions.Asked[0].second, std::string("vbok+vbcritical"));
+        QString text;
+        WhileOpen<ui::MsgForm>([&] { QVERIFY(!window.Start() && window.Ended()); }, [&](ui::MsgForm* f) {
+            const QPalette shown = f->findChild<QLabel*>("Label1")->palette();
+            const bool readable = ui::Contrast(shown.color(QPalette::WindowText), shown.color(QPalette::Window)) >= 4.5;
+            text = f->Text() + QString(" %1 ").arg(f->PictureShown()) + f->Buttons().front()->text() +
+                   (readable ? " readable" : " unreadable");
+            f->reject();
+        });
         QVERIFY(!folder.Exists("jarlsvakt.cfg"));
+        QCOMPARE(text, QString("File: all.col is missing\nProgram cannot run without this file 5 Ok readable"));
+    }
+
+    void EveryShippedSchemeDrawsReadableText() {
+        // Every text a shipped scheme draws reaches 4.5:1 on its background: the window, its buttons and
+        // lists, the event log's three voices, the grid letters and the message box.
+        StartedWindow s;
+        const auto* log = s.Find<ui::LineList>("EventLog");
+        const auto on = [](const QWidget* w, QPalette::ColorRole ink, QPalette::ColorRole back) {
+            return std::pair(w->palette().color(ink), w->palette().color(back));
+        };
+        for (const std::string& scheme : FillSchemeList(s.g())) {
+            QVERIFY(LoadColourScheme(s.g(), scheme + ".col"));
+            s.window.DrawBoard();
+            ui::MsgForm box;
+            ui::ColourMessageBox(box, s.g().ColourTable);
+            box.Prepare("Stop ?", "vbyesno");
+            const QColor base = s.window.palette().color(QPalette::Base);
+            const std::vector<std::pair<const char*, std::pair<QColor, QColor>>> texts{
+                {"window", on(&s.window, QPalette::WindowText, QPalette::Window)},
+                {"lists", on(&s.window, QPalette::Text, QPalette::Base)},
+                {"buttons", on(s.Find("cmdload"), QPalette::ButtonText, QPalette::Button)},
+                {"log 0", {log->LineColour(0), base}}, {"log 1", {log->LineColour(1), base}},
+                {"log 2", {log->LineColour(2), base}},
+                {"grid letters", {ui::LabelColour(s.g()), ui::BoardBackColour(s.g())}},
+                {"message", on(box.findChild<QLabel*>("Label1"), QPalette::WindowText, QPalette::Window)},
+                {"message buttons", on(box.Buttons().front(), QPalette::ButtonText, QPalette::Button)}};
+            for (const auto& [what, colours] : texts)
+                QVERIFY2(ui::Contrast(colours.first, colours.second) >= 4.5, (scheme + " " + what).c_str());
+        }
+    }
+
+    void NewGameClearsTheReasoningPanes() {
+        // The panes show nothing of the game before once a new one starts: reset, load, Play Layout.
+        for (const QStringList& presses : {QStringList{"cmdreset"}, {"cmdload"}, {"cmdedit", "cmdedit"}}) {
+            StartedWindow s;
+            // The King two squares from a corner along a free edge: both sides' rankings have lines to show.
+            s.Load("small.txt",
+                   LayoutText({"H...K.H", "..d....", ".......", ".......", "..a....", "..d.a..", "H.....H"}));
+            for (const char* name : {"cmdGetDefenderRank", "cmdGetAttackerRank", "cmdRedRandom"}) s.Find(name)->click();
+            const auto filled = [&] {   // the reasoning panes that show lines
+                const auto lists = s.window.findChildren<QListWidget*>(QRegularExpression("^(List|.*MovesRank)"));
+                return std::count_if(lists.begin(), lists.end(), [](const QListWidget* l) { return l->count() > 0; });
+            };
+            QCOMPARE(filled(), 7);   // all but the tied best, which only a computer move fills
+            s.NextFile = "small.txt", s.questions.AnswerTo["Reset layout?"] = 6;
+            for (const QString& name : presses) s.Press(qPrintable(name));
+            QVERIFY2(filled() == 0, qPrintable(presses.front()));
+        }
     }
 
     void OnlyExitAnsweredYesWritesTheConfiguration_data() {
@@ -56,14 +112,13 @@ private slots:
         s.g().BoardStyle = 2;
         s.questions.AnswerTo["Exit?"] = answer;
         const auto end = [&] { byFrame ? (void)s.window.close() : s.Press("cmdexit"); };
-        if (autoGame) {
+        if (autoGame) {   // ended from inside the automatic game
             s.window.PauseLimit = 1;
             QTimer::singleShot(300, &s.window, end);
             s.Press("Command12");
             QVERIFY(!s.g().Undo.empty());   // it did play
-        } else {
-            end();
         }
+        if (!autoGame) end();
         QCOMPARE(s.window.Ended(), byFrame || answer == 6);
         QCOMPARE(s.questions.WasAsked("Exit?"), !byFrame);
         const std::string after = s.folder.Read("jarlsvakt.cfg");

@@ -49,6 +49,23 @@ struct Options : StartedWindow {
 class TestOptionsDialog : public QObject {
     Q_OBJECT
 private slots:
+    void EachGridStyleSaysWhatItsSampleDraws() {
+        // Each grid style's tool tip names what its sample shows down the middle of a square: white before the
+        // grid colour is a raised square, the grid colour first a sunken one, no white flat squares in a grid.
+        StartedWindow s;
+        ui::Form2 form(s.g(), &s.window);
+        const QColor grid = ui::ToQColor(s.g().ColourTable[4]);
+        for (const auto* button : form.findChildren<QRadioButton*>(QRegularExpression("Option3_"))) {
+            const QImage sample = button->icon().pixmap(button->iconSize()).toImage();
+            QString edges;   // down the middle of the first squares: w white, g the grid colour
+            for (int y = 0; y < sample.height(); ++y)
+                if (const QColor c = sample.pixelColor(sample.width() / 4, y); c == Qt::white || c == grid)
+                    edges += c == Qt::white ? "w" : "g";
+            const char* drawn = !edges.contains('w') ? "flat squares in a grid" : edges[0] == 'w' ? "raised" : "sunken";
+            QVERIFY2(button->toolTip().contains(drawn), qPrintable(button->text() + ": " + button->toolTip()));
+        }
+    }
+
     void SymbolsWithAChosenPictureDrawThatPicture() {
         // A picture chosen for the Computer's symbol and applied draws the attackers at once and next run.
         Options s;
@@ -69,6 +86,8 @@ private slots:
         QVERIFY(s.Configuration().find("\r\nmagenta.bmp\r\n") != std::string::npos);
         ui::MainWindow again(s.folder.Path());
         again.Start();
+        again.show();   // the board is drawn at its first paint
+        QVERIFY(QTest::qWaitForWindowExposed(&again));
         QCOMPARE(again.Board()->Pixmap().toImage().pixelColor(again.Board()->SquareCentre(1, 6)), Magenta);
     }
 
@@ -80,8 +99,7 @@ private slots:
             for (const char* name : {"Option3_1", "Check1", "Image3"}) s.Press(name);
             s.ChooseFile("king1.ico");
             s.Control<ColourPicker>("ColPik1")->Slider(0)->setValue(200);
-            s.Press("cmdadjust4");
-            s.Press("Command1");
+            for (const char* name : {"cmdadjust4", "Command1"}) s.Press(name);
         });
         Game& g = s.window.game();
         QVERIFY(std::tie(g.SchemeFile, g.BoardStyle, g.ShowLabels, g.PictureFiles[3]) ==
@@ -112,11 +130,11 @@ private slots:
             s.ChooseFile("home1.ico");
             s.Press("cmdadjust4");
         });
-        const Game& g = s.window.game();
-        QVERIFY(std::tie(g.SchemeFile, g.BoardStyle, g.ShowLabels, g.ColourMode, g.PictureFiles, g.PieceColours,
-                         g.ColourTable) == std::tie(before.SchemeFile, before.BoardStyle, before.ShowLabels,
-                                                    before.ColourMode, before.PictureFiles, before.PieceColours,
-                                                    before.ColourTable));
+        const auto settings = [](const Game& g) {
+            return std::tie(g.SchemeFile, g.BoardStyle, g.ShowLabels, g.ColourMode, g.PictureFiles, g.PieceColours,
+                            g.ColourTable);
+        };
+        QVERIFY(settings(s.window.game()) == settings(before));
         QCOMPARE(s.window.Board()->Pixmap().toImage(), board);
     }
 
@@ -126,9 +144,7 @@ private slots:
         ColourPicker picker;
         picker.show();
         QSignalSpy reported(&picker, &ColourPicker::ColourChanged);
-        picker.Slider(0)->setValue(200);
-        picker.Slider(1)->setValue(64);
-        picker.Slider(2)->setValue(9);
+        for (int i = 0; i < 3; ++i) picker.Slider(i)->setValue(std::array{200, 64, 9}[i]);
         QTest::keyClick(picker.Slider(2), Qt::Key_Right);   // one step up with the keyboard
         QCOMPARE(picker.Preview()->palette().color(QPalette::Window), QColor(200, 64, 10));
         QCOMPARE(reported.size(), 4);

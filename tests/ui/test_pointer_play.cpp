@@ -45,6 +45,7 @@ private slots:
         QCOMPARE(p.LogLinesContaining("  Player1 Move D6 > D8") + p.LogLinesContaining("  Player2 Move "), 2);
         QCOMPARE(p.Find<QListWidget>("Undo")->count(), 2);
         QVERIFY(p.Find<QListWidget>("List1A")->count() > 0);   // the computer's reasoning stays to be read
+        QVERIFY(p.window.statusBar()->currentMessage().endsWith(": defender"));   // the dropped piece named
         QVERIFY(!enabledDuringMove && cursor == Qt::BusyCursor);
         QVERIFY(p.Board()->isEnabled() && QApplication::overrideCursor() == nullptr);
     }
@@ -137,8 +138,8 @@ private slots:
         p.Load("capture.txt", CaptureLayout);
         const QColor king = p.At(1, 5);
         p.Drag({1, 5}, {1, 7});
-        QCOMPARE(p.questions.Asked.back().first, std::string("King at Home !\r\nClick Reset to start a new game"));
-        QCOMPARE(p.questions.Asked.back().second, std::string("vbhappy+vbok"));
+        QCOMPARE(p.questions.Asked.back().first + "|" + p.questions.Asked.back().second,
+                 std::string("King at Home !\r\nClick Reset to start a new game|vbhappy+vbok"));
         QVERIFY(p.g().Undo.empty() && p.At(1, 7) == king && p.LogLinesContaining("Player2 Move") == 0);
         const std::string finished = EncodePosition(p.g());
         p.Drag({2, 3}, {4, 3});
