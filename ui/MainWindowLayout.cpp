@@ -13,6 +13,8 @@
 #include <QListWidget>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QStyle>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QTabWidget>
@@ -79,7 +81,15 @@ void MainWindow::BuildWindow() {
     split_->addWidget(BuildListsColumn());
     split_->installEventFilter(this);
 
-    columns->addWidget(BuildCommandColumn());
+    // On a short window the commands scroll rather than squeeze their controls.
+    auto* commands = new QScrollArea;
+    commands->setObjectName("CommandScroll");
+    commands->setWidget(BuildCommandColumn());
+    commands->setWidgetResizable(true);
+    commands->setFrameShape(QFrame::NoFrame);
+    commands->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    commands->setFixedWidth(commands->widget()->width() + style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 2);
+    columns->addWidget(commands);
     columns->addWidget(split_, 1);
     outer->addLayout(columns, 1);
     outer->addWidget(BuildDebugPanel());
