@@ -20,15 +20,8 @@ struct BestmoveOptions {
 
 bool ParseOptions(const Args& args, BestmoveOptions& o) {
     bool timed = false, deep = false;
-    for (std::size_t i = 0; i < args.size(); ++i) {
-        const std::string& a = args[i];
-        if (a.rfind("--", 0) != 0) {
-            if (!o.File.empty()) return false;
-            o.File = a;
-            continue;
-        }
-        if (i + 1 >= args.size()) return false;
-        const std::string& value = args[++i];
+    const auto file = [&](const std::string& a) { return o.File.empty() && !(o.File = a).empty(); };
+    const auto option = [&](const std::string& a, const std::string& value) {
         long long n = 0;
         if (a == "--side" && (value == "attackers" || value == "defenders")) {
             o.Side = value == "attackers" ? AttackerCode : DefenderCode;
@@ -41,7 +34,9 @@ bool ParseOptions(const Args& args, BestmoveOptions& o) {
         } else {
             return false;
         }
-    }
+        return true;
+    };
+    if (!ReadArguments(args, file, option)) return false;
     // Without a limit the search thinks for a second.
     if (!timed && !deep) o.Limits.Millis = 1000;
     return !o.File.empty() && o.Side >= 0 && !(timed && deep);

@@ -49,23 +49,18 @@ bool ReadPlayer(const std::string& text, Player& p) {
 
 bool ParseOptions(const Args& args, MatchOptions& o) {
     bool attackers = false, defenders = false;
-    for (std::size_t i = 0; i < args.size(); ++i) {
-        const std::string& a = args[i];
-        if (a.rfind("--", 0) != 0) {
-            o.Layouts.push_back(a);
-            continue;
-        }
-        if (i + 1 >= args.size()) return false;
-        const std::string& value = args[++i];
-        bool read = false;
-        if (a == "--attackers") read = attackers = ReadPlayer(value, o.Players[AttackerCode]);
-        else if (a == "--defenders") read = defenders = ReadPlayer(value, o.Players[DefenderCode]);
-        else if (a == "--games") read = ReadCount(value, o.Games);
-        else if (a == "--openings") read = ReadCount(value, o.Openings);
-        else if (a == "--seed") read = ReadCount(value, o.Seed);
-        if (!read) return false;
-    }
-    return attackers && defenders && o.Games > 0 && !o.Layouts.empty();
+    const auto layout = [&](const std::string& a) {
+        o.Layouts.push_back(a);
+        return true;
+    };
+    const auto option = [&](const std::string& a, const std::string& value) {
+        if (a == "--attackers") return attackers = ReadPlayer(value, o.Players[AttackerCode]);
+        if (a == "--defenders") return defenders = ReadPlayer(value, o.Players[DefenderCode]);
+        if (a == "--games") return ReadCount(value, o.Games);
+        if (a == "--openings") return ReadCount(value, o.Openings);
+        return a == "--seed" && ReadCount(value, o.Seed);
+    };
+    return ReadArguments(args, layout, option) && attackers && defenders && o.Games > 0 && !o.Layouts.empty();
 }
 
 std::string PlayerName(const Player& p) { return p.Strong ? "strong:" + std::to_string(p.Millis) : "classic"; }

@@ -27,41 +27,20 @@ struct SelfplayOptions {
     std::string LogFolder;
 };
 
-bool ParseCount(const std::string& text, long long& value) {
-    if (text.empty() || text.size() > 9) return false;
-    for (char c : text)
-        if (c < '0' || c > '9') return false;
-    value = std::stoll(text);
-    return true;
-}
-
 bool ParseOptions(const Args& args, SelfplayOptions& o) {
-    for (std::size_t i = 0; i < args.size(); ++i) {
-        const std::string& a = args[i];
-        if (a.rfind("--", 0) != 0) {
-            if (!o.File.empty()) return false;
-            o.File = a;
-            continue;
-        }
-        if (i + 1 >= args.size()) return false;
-        const std::string& value = args[++i];
+    const auto file = [&](const std::string& a) { return o.File.empty() && !(o.File = a).empty(); };
+    const auto option = [&](const std::string& a, const std::string& value) {
         long long n = 0;
-        if (a == "--log") {
-            o.LogFolder = value;
-        } else if (!ParseCount(value, n)) {
-            return false;
-        } else if (a == "--games") {
-            o.Games = static_cast<int>(n);
-        } else if (a == "--max-moves") {
-            o.MaxMoves = static_cast<int>(n);
-        } else if (a == "--seed") {
-            o.Seeded = true;
-            o.Seed = n;
-        } else {
-            return false;
-        }
-    }
-    return !o.File.empty() && o.Games > 0;
+        if (a == "--log") o.LogFolder = value;
+        else if (!ReadCount(value, n)) return false;
+        else if (a == "--games") o.Games = static_cast<int>(n);
+        else if (a == "--max-moves") o.MaxMoves = static_cast<int>(n);
+        else if (a == "--seed") o.Seed = n;
+        else return false;
+        o.Seeded = o.Seeded || a == "--seed";
+        return true;
+    };
+    return ReadArguments(args, file, option) && !o.File.empty() && o.Games > 0;
 }
 
 // With a seed, the timer that seeds the random draws runs from a fixed

@@ -24,27 +24,17 @@ struct Options {
     std::string LogFolder = std::filesystem::temp_directory_path().string();
 };
 
-bool ParseNumber(const std::string& text, long long& value) {
-    const char* end = text.data() + text.size();
-    const auto [stop, error] = std::from_chars(text.data(), end, value);
-    return error == std::errc() && stop == end && value >= 0;
-}
-
 bool ParseOptions(const Args& args, Options& o) {
-    for (std::size_t i = 0; i < args.size(); ++i) {
-        const std::string& a = args[i];
-        if (a.rfind("--", 0) != 0) {
-            o.Layouts.push_back(a);
-            continue;
-        }
-        if (i + 1 >= args.size()) return false;
-        const std::string& value = args[++i];
-        if (a == "--log") o.LogFolder = value;
-        else if (a == "--moves" && ParseNumber(value, o.Moves) && o.Moves > 0) continue;
-        else if (a == "--seed" && ParseNumber(value, o.Seed)) continue;
-        else return false;
-    }
-    return !o.Layouts.empty();
+    const auto layout = [&](const std::string& a) {
+        o.Layouts.push_back(a);
+        return true;
+    };
+    const auto option = [&](const std::string& a, const std::string& value) {
+        if (a == "--log") return !(o.LogFolder = value).empty();
+        if (a == "--moves") return ReadCount(value, o.Moves) && o.Moves > 0;
+        return a == "--seed" && ReadCount(value, o.Seed);
+    };
+    return ReadArguments(args, layout, option) && !o.Layouts.empty();
 }
 
 double KiB(std::int64_t bytes) { return static_cast<double>(bytes) / 1024.0; }

@@ -42,6 +42,15 @@ struct CommandGame {
 // the given view.
 void PrepareGame(Game& g, GameView& view);
 
+// A count on the command line: up to nine digits.
+bool ReadCount(const std::string& text, long long& value);
+
+// Walks a command's arguments: each one that does not start with "--" goes to
+// plain, each "--name value" pair to option. False as soon as either refuses
+// its argument or an option has no value.
+bool ReadArguments(const Args& args, const std::function<bool(const std::string&)>& plain,
+                   const std::function<bool(const std::string& name, const std::string& value)>& option);
+
 // True when the command got exactly count arguments; else prints its usage
 // line on standard error.
 bool HasArguments(const Args& args, std::size_t count, const char* usage);

@@ -1,3 +1,4 @@
+#include <charconv>
 #include <filesystem>
 #include <iostream>
 
@@ -13,6 +14,25 @@ namespace jv::cli {
 CommandGame::CommandGame(bool quiet) {
     view.Quiet = quiet;
     PrepareGame(g, view);
+}
+
+bool ReadCount(const std::string& text, long long& value) {
+    if (text.empty() || text.size() > 9) return false;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    return error == std::errc() && end == text.data() + text.size() && value >= 0;
+}
+
+bool ReadArguments(const Args& args, const std::function<bool(const std::string&)>& plain,
+                   const std::function<bool(const std::string& name, const std::string& value)>& option) {
+    for (std::size_t i = 0; i < args.size(); ++i) {
+        if (args[i].rfind("--", 0) != 0) {
+            if (!plain(args[i])) return false;
+            continue;
+        }
+        if (i + 1 >= args.size() || !option(args[i], args[i + 1])) return false;
+        ++i;
+    }
+    return true;
 }
 
 bool HasArguments(const Args& args, std::size_t count, const char* usage) {

@@ -16,10 +16,5 @@ std::string LineText(const Game& g, const std::vector<Move>& line) {
     return text;
 }
 
-bool ReadCount(const std::string& text, long long& value) {
-    if (text.empty() || text.size() > 9) return false;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-    return error == std::errc() && end == text.data() + text.size() && value >= 0;
-}
 
 }  // namespace jv::cli

@@ -14,7 +14,5 @@ std::string MoveText(const Game& g, const Move& move);
 // The moves separated by spaces.
 std::string LineText(const Game& g, const std::vector<Move>& line);
 
-// A count of at most nine digits; false for anything else.
-bool ReadCount(const std::string& text, long long& value);
 
 }  // namespace jv::cli
