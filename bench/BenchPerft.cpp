@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <string>
 
+#include "Positions.h"
 #include "Timing.h"
 #include "core/Board.h"
 #include "core/Perft.h"
@@ -12,15 +13,9 @@
 namespace jv::bench {
 
 bool BenchPerft() {
-    const std::string path = std::string(JARLSVAKT_DATA_DIR) + "/patf.txt";
     SilentView view;
     Game g;
-    g.View = &view;
-    BuildColumnLetters(g);
-    if (!ReadLayoutFile(g, path).Ok()) {
-        std::printf("cannot read %s\n", path.c_str());
-        return false;
-    }
+    if (!ReadBenchLayout(g, view, "patf.txt")) return false;
     for (int depth : {3, 4}) {
         std::uint64_t leaves = 0;
         const double micros = MedianMicros([&] { leaves = Perft(g, depth, DefenderCode); }, depth == 3 ? 11 : 5, 1);

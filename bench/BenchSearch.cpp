@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 
+#include "Positions.h"
 #include "Timing.h"
 #include "session/ComputerMoves.h"
 #include "ai/Search.h"
@@ -44,15 +45,9 @@ void MiddleGame(Game& g, int rounds, double seed) {
 }  // namespace
 
 bool BenchSearch() {
-    const std::string path = std::string(JARLSVAKT_DATA_DIR) + "/patf.txt";
     SilentView view;
     Game g;
-    g.View = &view;
-    BuildColumnLetters(g);
-    if (!ReadLayoutFile(g, path).Ok()) {
-        std::printf("cannot read %s\n", path.c_str());
-        return false;
-    }
+    if (!ReadBenchLayout(g, view, "patf.txt")) return false;
     std::printf("\n%-12s %-10s %5s %12s %10s %10s %14s\n", "position", "side", "depth", "nodes", "wall ms",
                 "cpu ms", "nodes/cpu s");
     auto print = [](const char* position, int side, const Timed& t) {

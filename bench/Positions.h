@@ -1,6 +1,11 @@
 #pragma once
+#include <cstdio>
 #include <string>
 #include <vector>
+
+#include "core/Board.h"
+#include "core/SilentView.h"
+#include "records/LayoutFile.h"
 
 namespace jv::bench {
 
@@ -10,6 +15,17 @@ struct BenchPosition {
     const char* Name;
     std::string Path;
 };
+
+// Reads a shipped layout onto a game with the silent view; says so and
+// answers false when it cannot.
+inline bool ReadBenchLayout(Game& g, SilentView& view, const std::string& name) {
+    const std::string path = std::string(JARLSVAKT_DATA_DIR) + "/" + name;
+    g.View = &view;
+    BuildColumnLetters(g);
+    if (ReadLayoutFile(g, path).Ok()) return true;
+    std::printf("cannot read %s\n", path.c_str());
+    return false;
+}
 
 inline std::vector<BenchPosition> BenchPositions() {
     const std::string data = std::string(JARLSVAKT_DATA_DIR) + "/";
