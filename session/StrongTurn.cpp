@@ -12,6 +12,7 @@
 #include "core/EventLog.h"
 #include "core/GameView.h"
 #include "core/Move.h"
+#include "core/SilentView.h"
 #include "records/Notation.h"
 #include "records/PlayerSettings.h"
 #include "records/PositionRecord.h"
@@ -41,6 +42,24 @@ struct ProgressMailbox {
     bool Fresh = false;
 };
 
+// The keys of the positions the game has been in, newest first as the undo
+// history keeps them, so that a line coming back to one scores as a draw.
+// The side to move alternates back from the one to move now.
+std::vector<std::uint64_t> PlayedKeys(const Game& g, int side) {
+    std::vector<std::uint64_t> keys;
+    SilentView silent;
+    Game earlier;
+    earlier.View = &silent;
+    int mover = side;
+    for (const std::string& record : g.Undo) {
+        mover ^= 1;
+        NewBoard(earlier, g.BoardWidth, g.BoardHeight);
+        ApplyPositionRecord(earlier, record);
+        keys.push_back(PositionKey(earlier, mover));
+    }
+    return keys;
+}
+
 }  // namespace
 
 std::optional<Move> ThinkStrong(Game& g, int side, bool* stopped) {
@@ -58,6 +77,7 @@ std::optional<Move> ThinkStrong(Game& g, int side, bool* stopped) {
     SearchLimits limits;
     limits.Millis = g.Players.ThinkMillis;
     limits.Stop = &stop;
+    limits.Played = PlayedKeys(g, side);
     ProgressMailbox mailbox;
     const Position copy = g;   // the worker reads its own copy, never the shared game
     auto search = std::async(std::launch::async, [&] {
