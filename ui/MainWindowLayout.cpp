@@ -278,7 +278,7 @@ QWidget* MainWindow::BuildListsColumn() {
     tabs->addTab(Captioned("Random mover (draw from>to)", AddList(ListId::List1, "List1"),
                            "Every move of the side behind its random draw, smallest draw first: from > to."),
                  "Random");
-    tabs->addTab(Captioned("Depth, score (defenders' view, in pieces), million nodes a second, expected line",
+    tabs->addTab(Captioned("Depth, score (for the side thinking, in pieces), million nodes a second, expected line",
                            AddList(ListId::SearchLines, "SearchLines"),
                            "The strong player's thinking, deepest first: press a line to see its first move"),
                  "Strong");
