@@ -1,7 +1,8 @@
-// The main window: start-up, and the program's end by the exit command or the frame, also from inside the
+// The main window: start-up, the players chosen, and the program's end by the exit command or the frame, also from inside the
 // automatic game.
 #include "WindowFixture.h"
 #include "records/ColourScheme.h"
+#include "session/ComputerMoves.h"
 #include "ui/BoardPainter.h"
 #include "ui/MsgForm.h"
 #include "ui/WindowColours.h"
@@ -71,6 +72,24 @@ private slots:
             for (const auto& [what, colours] : texts)
                 QVERIFY2(ui::Contrast(colours.first, colours.second) >= 4.5, (scheme + " " + what).c_str());
         }
+    }
+
+    void ThePlayersChosenAreKeptAndTheStrongPlayerShowsItsThinking() {
+        // The players chosen in the window go to players.cfg and come back at the next start; the strong
+        // attackers then make their move and the Strong pane shows what they found.
+        StartedWindow s;
+        QTest::keyClick(s.Find<QComboBox>("AttackerPlayer"), Qt::Key_Down);
+        QTest::keyClick(s.Find<QComboBox>("ThinkingTime"), Qt::Key_Up);
+        QCOMPARE(s.folder.Read("players.cfg"), std::string("attackers strong\r\ndefenders classic\r\nthink 200\r\n"
+                                                          "user defenders\r\n"));
+        ui::MainWindow again(s.folder.Path());
+        QVERIFY(again.Start());
+        QCOMPARE(again.findChild<QComboBox*>("AttackerPlayer")->currentText(), QString("Strong"));
+        QCOMPARE(again.findChild<QComboBox*>("ThinkingTime")->currentText(), QString("0.2 s"));
+        const std::size_t moves = s.g().Undo.size();
+        MakeRedAutoMove(s.g());
+        QCOMPARE(s.g().Undo.size(), moves + 1);
+        QVERIFY(s.Find<QListWidget>("SearchLines")->count() > 0);
     }
 
     void NewGameClearsTheReasoningPanes() {
