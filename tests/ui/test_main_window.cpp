@@ -1,5 +1,5 @@
-// The main window: start-up, the players chosen, and the program's end by the exit command or the frame, also from inside the
-// automatic game.
+// The main window: start-up, the players chosen, and the program's end by the exit command or the frame,
+// also from inside the automatic game.
 #include "WindowFixture.h"
 #include "records/ColourScheme.h"
 #include "session/ComputerMoves.h"
