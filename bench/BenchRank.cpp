@@ -58,8 +58,7 @@ void BenchSelfPlay() {
     for (int game = 1; game <= 10; ++game) {
         LoadedGame loaded;
         if (!loaded.Load(std::string(JARLSVAKT_DATA_DIR) + "/patf.txt")) return;
-        long long tick = 0;
-        loaded.G.Random.Timer = [&tick, game] { return 1000.0 * game + static_cast<double>(tick++) / 64.0; };
+        loaded.G.Random.Timer = TickingClock(1000.0 * game);
         RedGreenRandom(loaded.G);
         const auto start = std::chrono::steady_clock::now();
         const AutoGameResult result = PlayAutoGame(loaded.G, 300);

@@ -2,7 +2,6 @@
 
 #include <chrono>
 #include <cstdio>
-#include <memory>
 #include <string>
 
 #include "Positions.h"
@@ -37,8 +36,7 @@ Timed TimedSearch(const Game& g, int side, const SearchLimits& limits) {
 // patf.txt after rounds of ten seeded random moves a side: a middle game
 // with the pieces spread out and nothing taken.
 void MiddleGame(Game& g, int rounds, double seed) {
-    auto ticks = std::make_shared<long long>(0);
-    g.Random.Timer = [ticks, seed] { return seed + static_cast<double>((*ticks)++) / 64.0; };
+    g.Random.Timer = TickingClock(seed);
     for (int round = 0; round < rounds; ++round) RedGreenRandom(g);
 }
 

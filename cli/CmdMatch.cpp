@@ -1,7 +1,6 @@
 #include <chrono>
 #include <iomanip>
 #include <iostream>
-#include <memory>
 
 #include "session/ComputerMoves.h"
 #include "ai/Search.h"
@@ -140,9 +139,7 @@ int RunMatch(const Args& args) {
             PrepareGame(g, view);
             if (!LoadLayoutArgument(g, layout)) return 2;
             g.Check1 = false;
-            auto ticks = std::make_shared<long long>(0);
-            const double start = static_cast<double>(o.Seed) + 1000.0 * static_cast<double>(game);
-            g.Random.Timer = [ticks, start] { return start + static_cast<double>((*ticks)++) / 64.0; };
+            g.Random.Timer = TickingClock(static_cast<double>(o.Seed) + 1000.0 * static_cast<double>(game));
             const int side = PlayOpening(g, o.Openings);
             switch (PlayGame(g, o, side, tally)) {
                 case Outcome::AttackersWin: ++tally.Wins[AttackerCode]; break;

@@ -2,7 +2,6 @@
 #include <filesystem>
 #include <iostream>
 #include <map>
-#include <memory>
 
 #include "cli/CliView.h"
 #include "cli/Commands.h"
@@ -46,9 +45,7 @@ bool ParseOptions(const Args& args, SelfplayOptions& o) {
 // With a seed, the timer that seeds the random draws runs from a fixed
 // start in steps of one tick, so a run can be repeated exactly.
 void SeedTimer(Game& g, long long seed, int game) {
-    auto ticks = std::make_shared<long long>(0);
-    const double start = static_cast<double>(seed) + 1000.0 * game;
-    g.Random.Timer = [ticks, start] { return start + static_cast<double>((*ticks)++) / 64.0; };
+    g.Random.Timer = TickingClock(static_cast<double>(seed) + 1000.0 * game);
 }
 
 }  // namespace

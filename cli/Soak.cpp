@@ -189,9 +189,7 @@ bool RunSoakOn(const SoakOptions& o, SoakReport& r) {
     std::filesystem::remove(o.MovesLog, ec);
     g.MovesLogFile = o.MovesLog;
     g.Check2 = true;
-    auto ticks = std::make_shared<long long>(0);
-    const double start = static_cast<double>(o.Seed);
-    g.Random.Timer = [ticks, start] { return start + static_cast<double>((*ticks)++) / 64.0; };
+    g.Random.Timer = TickingClock(static_cast<double>(o.Seed));
 
     std::vector<SoakMove> moves;
     moves.reserve(static_cast<std::size_t>(o.Moves));

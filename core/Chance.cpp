@@ -15,6 +15,10 @@ double SecondsSinceMidnight() {
 }
 }  // namespace
 
+std::function<double()> TickingClock(double start) {
+    return [start, ticks = 0LL]() mutable { return start + static_cast<double>(ticks++) / 64.0; };
+}
+
 Chance::Chance() : Timer(SecondsSinceMidnight), state_(0x50000) {}
 
 // A 24-bit linear congruential generator. Reseeding sets the whole state

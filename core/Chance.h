@@ -4,6 +4,11 @@
 
 namespace jv {
 
+// A clock for repeatable runs: it reads start, then advances one tick (a
+// sixty-fourth of a second) at every reading, so that the draws reseeded from
+// it differ from each other yet repeat exactly from the same start.
+std::function<double()> TickingClock(double start);
+
 // The program's random numbers: one generator, reseeded from a clock the
 // way the computer players ask for it. Both the generator state and the clock
 // can be set by tests, so "two runs may differ" and "reseeded within one

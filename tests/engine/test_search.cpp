@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <memory>
 
 #include "session/ComputerMoves.h"
 #include "ai/Search.h"
@@ -37,12 +36,6 @@ void PlacePieces(Game& g, int width, int height, std::initializer_list<const cha
     }
     ASSERT_TRUE(ApplyLayoutLine(g, Format(width, "00") + Format(height, "00") + Format(kingCol, "00") +
                                        Format(kingRow, "00") + squares).Ok());
-}
-
-// The random mover's draws from a timer that starts at seed and ticks once per draw.
-void SeedTimer(Game& g, double seed) {
-    auto ticks = std::make_shared<long long>(0);
-    g.Random.Timer = [ticks, seed] { return seed + static_cast<double>((*ticks)++) / 64.0; };
 }
 
 const char* SideName(int side) { return side == AttackerCode ? "attackers" : "defenders"; }
@@ -104,7 +97,7 @@ TEST(Search, OwnMoveCounterAgreesWithPerft) {
     for (const Row& row : table) {
         TestGame t;
         ReadLayout(t, row.layout);
-        SeedTimer(t.g, 7);
+        t.g.Random.Timer = TickingClock(7);
         for (int round = 0; round < row.randomRounds; ++round) RedGreenRandom(t.g);
         for (int side : {DefenderCode, AttackerCode}) {
             SearchBoard board(t.g, side);
