@@ -279,18 +279,18 @@ std::uint64_t SearchBoard::Perft(int depth) {
     return total;
 }
 
-bool SearchBoard::Allows(int fromCol, int fromRow, int toCol, int toRow) const {
-    const bool onBoard = fromCol >= 1 && fromCol <= width_ && fromRow >= 1 && fromRow <= height_ && toCol >= 1 &&
-                         toCol <= width_ && toRow >= 1 && toRow <= height_;
-    if (!onBoard || status_ != SearchStatus::Playing) return false;
+bool SearchBoard::Allows(const Move& m) const {
+    const auto onBoard = [this](Square s) { return s.Col >= 1 && s.Col <= width_ && s.Row >= 1 && s.Row <= height_; };
+    if (!onBoard(m.From) || !onBoard(m.To) || status_ != SearchStatus::Playing) return false;
     SearchMove moves[MaxSearchMoves];
     const int n = Generate(moves);
-    const SearchMove wanted{static_cast<std::uint8_t>(CellOf(fromCol, fromRow)), static_cast<std::uint8_t>(CellOf(toCol, toRow))};
+    const SearchMove wanted{static_cast<std::uint8_t>(CellOf(m.From.Col, m.From.Row)),
+                            static_cast<std::uint8_t>(CellOf(m.To.Col, m.To.Row))};
     return std::find(moves, moves + n, wanted) != moves + n;
 }
 
-bool IsLegalMove(const Position& g, int side, int fromCol, int fromRow, int toCol, int toRow) {
-    return SearchBoard(g, side).Allows(fromCol, fromRow, toCol, toRow);
+bool IsLegalMove(const Position& g, int side, const Move& m) {
+    return SearchBoard(g, side).Allows(m);
 }
 
 }  // namespace jv

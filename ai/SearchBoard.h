@@ -69,7 +69,7 @@ public:
     // King; for the defenders also every King move.
     int GenerateTactical(SearchMove* out) const;
     // True when the side to move may make the move between the two squares.
-    bool Allows(int fromCol, int fromRow, int toCol, int toRow) const;
+    bool Allows(const Move& m) const;
     // True when the move takes at least one piece (the King aside).
     bool Captures(SearchMove m) const;
 
@@ -109,6 +109,6 @@ private:
 
 // True when side (AttackerCode or DefenderCode) may make the move in the
 // game's position as it stands, the King's move onto a corner included.
-bool IsLegalMove(const Position& g, int side, int fromCol, int fromRow, int toCol, int toRow);
+bool IsLegalMove(const Position& g, int side, const Move& m);
 
 }  // namespace jv

@@ -95,7 +95,7 @@ int Pieces(const Game& g) {
 // was made in, add a piece, take one without a capture, or leave the King's
 // square without the King.
 std::string MoveFault(const Game& g, const SoakMove& m, const SearchBoard& before, int piecesBefore) {
-    if (!before.Allows(m.FromCol, m.FromRow, m.ToCol, m.ToRow))
+    if (!before.Allows(m.Played()))
         return "the move " + SquareName(g, m.FromCol, m.FromRow) + " > " + SquareName(g, m.ToCol, m.ToRow) +
                " is not legal";
     const int pieces = Pieces(g);

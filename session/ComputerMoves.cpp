@@ -88,8 +88,11 @@ bool OnBoard(const Game& g, int col, int row) {
 // that the same position always gets the same move.
 constexpr int FallbackDepth = 4;
 
-bool IsLegal(const Game& g, int side, const Move& m) {
-    return IsLegalMove(g, side, m.From.Col, m.From.Row, m.To.Col, m.To.Row);
+// The message of a side that truly cannot move.
+void ShowNoMove(Game& g, int side) {
+    g.View->Show(std::string(side == AttackerCode ? "No move for the Attacker" : "No move for the Defender") +
+                     "\r\nClick Reset to start another Game",
+                 "Vbcritical+vbok");
 }
 
 std::string MoveName(const Game& g, const Move& m) {
@@ -99,7 +102,7 @@ std::string MoveName(const Game& g, const Move& m) {
 // The first line of a candidate list whose move the position as it stands allows.
 bool FirstLegal(const Game& g, int side, const std::vector<std::string>& list, Move& move) {
     for (const std::string& line : list)
-        if (ReadListMove(line, move) && IsLegal(g, side, move)) return true;
+        if (ReadListMove(line, move) && IsLegalMove(g, side, move)) return true;
     return false;
 }
 
@@ -107,7 +110,7 @@ bool FirstLegal(const Game& g, int side, const std::vector<std::string>& list, M
 // candidate of the list stands in for it, and the event log says so. False
 // when no candidate is legal.
 bool LegalCandidate(Game& g, int side, const std::vector<std::string>& list, Move& move) {
-    if (IsLegal(g, side, move)) return true;
+    if (IsLegalMove(g, side, move)) return true;
     const Move ranked = move;
     if (!FirstLegal(g, side, list, move)) return false;
     PrintLog(g, "Ranked move " + MoveName(g, ranked) + " is not legal: taking " + MoveName(g, move), side + 1, 0);
@@ -132,7 +135,7 @@ void DropDefenderMove(Game& g, const Move& m) {
     const int gameNumber = g.GameNumber;
     AnimateMove(g, m);
     // The pause lets the user's clicks in; they may have changed the game.
-    if (g.GameNumber != gameNumber || g.Ending || !IsLegal(g, DefenderCode, m)) return;
+    if (g.GameNumber != gameNumber || g.Ending || !IsLegalMove(g, DefenderCode, m)) return;
     g.DragSource = Square{m.From.Col, m.From.Row};
     ShowDragLine(g, m);
     const bool reply = g.Check1;
@@ -152,10 +155,7 @@ void PlayStrongMove(Game& g, int side) {
     const std::optional<Move> move = ThinkStrong(g, side, &stopped);
     if (move && side == AttackerCode) MakeAttackerMove(g, *move);
     if (move && side == DefenderCode) DropDefenderMove(g, *move);
-    if (!move && !stopped)
-        g.View->Show(std::string(side == AttackerCode ? "No move for the Attacker" : "No move for the Defender") +
-                         "\r\nClick Reset to start another Game",
-                     "Vbcritical+vbok");
+    if (!move && !stopped) ShowNoMove(g, side);
     SetBoardEnabled(g, true);
     g.View->SetBusy(false);
 }
@@ -173,21 +173,21 @@ void MakeRedAutoMove(Game& g) {
     if (g.List1A.empty()) {
         g.View->SetBusy(false);
         SetBoardEnabled(g, true);
-        g.View->Show("No move for the Attacker\r\nClick Reset to start another Game", "Vbcritical+vbok");
+        ShowNoMove(g, AttackerCode);
         g.View->DoEvents();
         return;
     }
     ListTiedBest(g);
     const int n = static_cast<int>(g.List3.size());
     const std::string& taken = g.List3[n == 1 ? 0 : DrawOneOf(g, n) - 1];
-    Move move{TwoDigits(taken, 6), TwoDigits(taken, 8), TwoDigits(taken, 1), TwoDigits(taken, 3)};
+    Move move{{TwoDigits(taken, 6), TwoDigits(taken, 8)}, {TwoDigits(taken, 1), TwoDigits(taken, 3)}};
     if (LegalCandidate(g, AttackerCode, g.List1A, move)) {
         MakeAttackerMove(g, move);
     } else if (SearchedMove(g, AttackerCode, move)) {
         PrintLog(g, "No legal ranked move: searched " + MoveName(g, move), AttackerCode + 1, 0);
         MakeAttackerMove(g, move);
     } else {
-        g.View->Show("No move for the Attacker\r\nClick Reset to start another Game", "Vbcritical+vbok");
+        ShowNoMove(g, AttackerCode);
     }
     SetBoardEnabled(g, true);
     g.View->SetBusy(false);
@@ -210,7 +210,7 @@ void MakeGreenAutoMove(Game& g) {
                  DefenderCode + 1, 0);
         DropDefenderMove(g, move);
     } else {
-        g.View->Show("No move for the Defender\r\nClick Reset to start another Game", "Vbcritical+vbok");
+        ShowNoMove(g, DefenderCode);
     }
     SetBoardEnabled(g, true);
     g.View->SetBusy(false);
