@@ -7,10 +7,10 @@
 #include "core/Move.h"
 #include "core/Perft.h"
 #include "session/Pointer.h"
-#include "core/VbText.h"
 #include "records/LayoutFile.h"
 #include "session/PlayerMoves.h"
 #include "support/Fixtures.h"
+#include "support/LayoutText.h"
 
 using namespace jv;
 using jv::test::TestGame;
@@ -21,21 +21,9 @@ void ReadLayout(TestGame& t, const std::string& name) {
     ASSERT_TRUE(ReadLayoutFile(t.g, jv::test::DataPath(name)).Ok());
 }
 
-// A board drawn as one text per column, one character per row ('.' empty,
-// 'd' defender, 'a' attacker, 'K' the King), read as its layout line.
-void PlacePieces(Game& g, int width, int height, std::initializer_list<const char*> cols) {
-    std::string squares(static_cast<std::size_t>(width * height), 'E');
-    int kingCol = 0, kingRow = 0, col = 1;
-    for (const char* text : cols) {
-        for (int row = 1; text[row - 1] != '\0'; ++row) {
-            const char c = text[row - 1];
-            if (c == 'K') kingCol = col, kingRow = row;
-            squares[static_cast<std::size_t>((col - 1) * height + row - 1)] = c == 'a' ? '1' : c == '.' ? 'E' : '0';
-        }
-        ++col;
-    }
-    ASSERT_TRUE(ApplyLayoutLine(g, Format(width, "00") + Format(height, "00") + Format(kingCol, "00") +
-                                       Format(kingRow, "00") + squares).Ok());
+// A board drawn as one text per column, read as its layout line.
+void PlacePieces(Game& g, std::initializer_list<const char*> cols) {
+    ASSERT_TRUE(ApplyLayoutLine(g, jv::test::LayoutText(cols)).Ok());
 }
 
 const char* SideName(int side) { return side == AttackerCode ? "attackers" : "defenders"; }
@@ -114,7 +102,7 @@ TEST(Search, KeysFollowEveryMoveAsAFreshCopyComputesThem) {
     // move the kept key is the key of the position the game's own move procedures reach, and after
     // taking the move back the key and the move counts are those of the start.
     TestGame t;
-    PlacePieces(t.g, 7, 7, {".ad.a..", "a.da.d.", "dK.a..a", ".a.d.d.", "..a.a..", ".d...da", "..a...."});
+    PlacePieces(t.g, {".ad.a..", "a.da.d.", "dK.a..a", ".a.d.d.", "..a.a..", ".d...da", "..a...."});
     t.g.Check1 = false;   // the computer does not answer the user's drops
     for (int side : {DefenderCode, AttackerCode}) {
         SearchBoard board(t.g, side);
@@ -143,7 +131,7 @@ TEST(Search, KeysFollowEveryMoveAsAFreshCopyComputesThem) {
 TEST(Search, FindsTheForcedMoveAtTheDepthItNeeds) {
     for (const Forced& f : ForcedPositions) {
         TestGame t;
-        PlacePieces(t.g, 7, 7, f.cols);
+        PlacePieces(t.g, f.cols);
         const SearchResult r = SearchTo(t.g, f.side, f.depth);
         ASSERT_TRUE(r.HasMove) << f.what;
         EXPECT_EQ(MoveName(r.Best), MoveName(f.move)) << f.what;
@@ -160,7 +148,7 @@ TEST(Search, TheTableChangesNotTheForcedMoveAndAFixedDepthRepeats) {
     // that follow from the order may then settle on another move of about the same score.)
     for (const Forced& f : ForcedPositions) {
         TestGame t;
-        PlacePieces(t.g, 7, 7, f.cols);
+        PlacePieces(t.g, f.cols);
         const SearchResult with = SearchTo(t.g, f.side, f.depth + 2);
         const SearchResult without = SearchTo(t.g, f.side, f.depth + 2, 0);
         EXPECT_EQ(MoveName(with.Best), MoveName(f.move)) << f.what;

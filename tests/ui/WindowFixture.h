@@ -12,10 +12,13 @@
 #include <vector>
 
 #include "core/Game.h"
+#include "support/LayoutText.h"
 #include "ui/BoardPicture.h"
 #include "ui/MainWindow.h"
 
 namespace jv::uitest {
+
+using jv::test::LayoutText;
 
 // Runs a test class with a home, configuration, data, cache, runtime and temporary folder of its own, all
 // in one temporary folder removed at the end: Qt's own files (the file dialog's history) and every program
@@ -161,23 +164,6 @@ struct Started {
     }
 };
 using StartedWindow = Started<>;
-
-// A layout line of a board built from one text per Col, one character per Row: '.' empty, 'd' defender,
-// 'a' attacker, 'K' the King, 'H' a corner.
-inline std::string LayoutText(std::initializer_list<const char*> cols) {
-    auto two = [](int n) { return std::string{static_cast<char>('0' + n / 10), static_cast<char>('0' + n % 10)}; };
-    int kingCol = 0, kingRow = 0, col = 0;
-    std::string squares;
-    for (const std::string text : cols) {
-        ++col;
-        for (std::size_t row = 0; row < text.size(); ++row) {
-            if (text[row] == 'K') kingCol = col, kingRow = static_cast<int>(row) + 1;
-            const char c = text[row];
-            squares += c == 'a' ? '1' : c == 'd' || c == 'K' ? '0' : c == 'H' ? 'H' : 'E';
-        }
-    }
-    return two(col) + two(static_cast<int>(squares.size()) / col) + two(kingCol) + two(kingRow) + squares + "\r\n";
-}
 
 // The lines of a list widget.
 inline std::vector<std::string> Lines(const QListWidget* list) {
