@@ -17,49 +17,48 @@ constexpr int RingDiagonal = 12;      // an attacker diagonally beside him
 constexpr int CornerDistance = 12;    // each step between the King and his nearest corner
 constexpr int Closing = 3;            // each step fewer between an attacker and the King
 
-constexpr int Steps[4] = {-SearchStride, SearchStride, 1, -1};
 
 // The last empty cell of the line from cell in the direction of step (cell
 // itself when the next cell is taken).
-int LineEnd(const SearchBoard& b, int cell, int step) {
+int LineEnd(const RuleBoard& b, int cell, int step) {
     while (b.At(cell + step) == CellEmpty) cell += step;
     return cell;
 }
 
 // The corners the King reaches in two moves: a corner lies on an edge, so
 // only a line that runs to an edge can end on a square that sees one.
-int TwoMoveRoutes(const SearchBoard& b, int king) {
+int TwoMoveRoutes(const RuleBoard& b, int king) {
     int routes = 0;
-    for (int step : Steps) {
+    for (int step : CellSteps) {
         const int last = LineEnd(b, king, step);
         if (last == king || b.At(last + step) != CellWall) continue;
-        const int across = step == 1 || step == -1 ? SearchStride : 1;
+        const int across = step == 1 || step == -1 ? CellStride : 1;
         for (int side : {across, -across})
             if (b.At(LineEnd(b, last, side) + side) == CellCorner) ++routes;
     }
     return routes;
 }
 
-int KingMobility(const SearchBoard& b, int king) {
+int KingMobility(const RuleBoard& b, int king) {
     int squares = 0;
-    for (int step : Steps)
+    for (int step : CellSteps)
         for (int c = king + step; b.At(c) == CellEmpty; c += step) ++squares;
     return squares;
 }
 
-int Ring(const SearchBoard& b, int king) {
+int Ring(const RuleBoard& b, int king) {
     int score = 0;
-    for (int step : Steps) {
+    for (int step : CellSteps) {
         const int piece = b.At(king + step);
         if (piece == CellAttacker || piece == CellCorner) score += RingSide;
     }
-    for (int diagonal : {SearchStride + 1, SearchStride - 1, -SearchStride + 1, -SearchStride - 1})
+    for (int diagonal : {CellStride + 1, CellStride - 1, -CellStride + 1, -CellStride - 1})
         if (b.At(king + diagonal) == CellAttacker) score += RingDiagonal;
     return score;
 }
 
 // The attackers' steps to the King, summed: the fewer, the tighter they close in.
-int AttackerSteps(const SearchBoard& b, int king) {
+int AttackerSteps(const RuleBoard& b, int king) {
     const int col = ColOf(king), row = RowOf(king);
     int steps = 0;
     const std::uint8_t* cells = b.AttackerCells();
@@ -67,7 +66,7 @@ int AttackerSteps(const SearchBoard& b, int king) {
     return steps;
 }
 
-int NearestCorner(const SearchBoard& b, int king) {
+int NearestCorner(const RuleBoard& b, int king) {
     const int col = ColOf(king), row = RowOf(king);
     const int dc = std::min(col - 1, b.Width() - col), dr = std::min(row - 1, b.Height() - row);
     return dc + dr;
@@ -75,7 +74,7 @@ int NearestCorner(const SearchBoard& b, int king) {
 
 }  // namespace
 
-int EvaluateForAttackers(const SearchBoard& b) {
+int EvaluateForAttackers(const RuleBoard& b) {
     int score = AttackerValue * b.Attackers() - DefenderValue * b.Defenders();
     const int king = b.King();
     if (king < 0) return score;

@@ -1,5 +1,5 @@
 #pragma once
-#include "ai/SearchBoard.h"
+#include "core/RuleBoard.h"
 
 namespace jv {
 
@@ -8,6 +8,6 @@ namespace jv {
 // King's free lines and his lines to the corners in two moves, his distance
 // to the nearest corner, the attackers round him and closing in on him, and his
 // mobility.
-int EvaluateForAttackers(const SearchBoard& b);
+int EvaluateForAttackers(const RuleBoard& b);
 
 }  // namespace jv

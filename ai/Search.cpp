@@ -6,7 +6,7 @@
 #include <cstdlib>
 
 #include "ai/Evaluation.h"
-#include "ai/SearchBoard.h"
+#include "core/RuleBoard.h"
 #include "ai/TranspositionTable.h"
 
 namespace jv {
@@ -27,7 +27,6 @@ constexpr int CaptureOrder = 1 << 28;
 constexpr int KillerOrder = 1 << 27;
 constexpr int HistoryLimit = 1 << 26;
 
-constexpr int Steps[4] = {-SearchStride, SearchStride, 1, -1};
 
 // A draw is a little worse than an even position for the side searching, so
 // that it does not go round in circles while it can still play on.
@@ -37,12 +36,12 @@ constexpr int Contempt = 40;
 constexpr int SortedPicks = 3;
 
 // Sorts moves by their order numbers, highest first.
-void SortRest(SearchMove* moves, int* order, int n) {
+void SortRest(BoardMove* moves, int* order, int n) {
     struct Scored {
         int Order;
-        SearchMove Move;
+        BoardMove Move;
     };
-    Scored scored[MaxSearchMoves];
+    Scored scored[MaxMoves];
     for (int i = 0; i < n; ++i) scored[i] = Scored{order[i], moves[i]};
     std::sort(scored, scored + n, [](const Scored& a, const Scored& b) { return a.Order > b.Order; });
     for (int i = 0; i < n; ++i) {
@@ -51,9 +50,8 @@ void SortRest(SearchMove* moves, int* order, int n) {
     }
 }
 
-Move ToBoardMove(SearchMove m) { return Move{{ColOf(m.From), RowOf(m.From)}, {ColOf(m.To), RowOf(m.To)}}; }
 
-bool Beside(int a, int b) { return a >= 0 && (std::abs(a - b) == 1 || std::abs(a - b) == SearchStride); }
+bool Beside(int a, int b) { return a >= 0 && (std::abs(a - b) == 1 || std::abs(a - b) == CellStride); }
 
 // Won and lost scores are stored in the table as distances from the node,
 // not from the root.
@@ -64,7 +62,7 @@ class Searcher {
 public:
     Searcher(const Position& g, int side, const SearchLimits& limits)
         : board_(g, side), table_(limits.TableMegabytes), limits_(limits),
-          history_(2 * SearchCells * SearchCells, 0), start_(Clock::now()),
+          history_(2 * CellCount * CellCount, 0), start_(Clock::now()),
           deadline_(start_ + std::chrono::milliseconds(limits.Millis)) {
         for (std::uint64_t key : limits.Played) played_[key % played_.size()] = true;
     }
@@ -82,24 +80,24 @@ private:
     int DrawScore(int ply) const;
     bool Stopped();
     double Seconds() const { return std::chrono::duration<double>(Clock::now() - start_).count(); }
-    int ThreatAnswers(SearchMove* moves, const std::array<bool, SearchCells>& lines) const;
-    void Order(const SearchMove* moves, int n, int* order, SearchMove tableMove, int ply) const;
-    void Prefer(SearchMove m, int depth, int ply);
-    int& History(SearchMove m) { return history_[(board_.SideToMove() * SearchCells + m.From) * SearchCells + m.To]; }
-    int HistoryOf(SearchMove m) const {
-        return history_[(board_.SideToMove() * SearchCells + m.From) * SearchCells + m.To];
+    int ThreatAnswers(BoardMove* moves, const std::array<bool, CellCount>& lines) const;
+    void Order(const BoardMove* moves, int n, int* order, BoardMove tableMove, int ply) const;
+    void Prefer(BoardMove m, int depth, int ply);
+    int& History(BoardMove m) { return history_[(board_.SideToMove() * CellCount + m.From) * CellCount + m.To]; }
+    int HistoryOf(BoardMove m) const {
+        return history_[(board_.SideToMove() * CellCount + m.From) * CellCount + m.To];
     }
-    void Extend(int ply, SearchMove m);
+    void Extend(int ply, BoardMove m);
     int KingHome(int ply);
     std::vector<Move> Pv() const;
 
-    SearchBoard board_;
+    RuleBoard board_;
     TranspositionTable table_;
     SearchLimits limits_;
     std::array<std::uint64_t, SearchMaxPly + 1> keys_{};
-    std::array<std::array<SearchMove, 2>, SearchMaxPly> killers_{};
+    std::array<std::array<BoardMove, 2>, SearchMaxPly> killers_{};
     std::vector<int> history_;
-    std::array<std::array<SearchMove, SearchMaxPly>, SearchMaxPly> pv_{};
+    std::array<std::array<BoardMove, SearchMaxPly>, SearchMaxPly> pv_{};
     std::array<int, SearchMaxPly> pvLength_{};
     // A quick first test of the game's earlier positions, by key.
     std::array<bool, 4096> played_{};
@@ -126,7 +124,7 @@ bool Searcher::Stopped() {
 }
 
 // The principal variation at ply: m, then the line below it.
-void Searcher::Extend(int ply, SearchMove m) {
+void Searcher::Extend(int ply, BoardMove m) {
     pv_[ply][ply] = m;
     for (int p = ply + 1; p < pvLength_[ply + 1]; ++p) pv_[ply][p] = pv_[ply + 1][p];
     pvLength_[ply] = std::max(pvLength_[ply + 1], ply + 1);
@@ -134,22 +132,14 @@ void Searcher::Extend(int ply, SearchMove m) {
 
 // The defenders to move with a free line to a corner: the King goes home.
 int Searcher::KingHome(int ply) {
-    const int king = board_.King();
-    for (int step : Steps) {
-        int to = king + step;
-        while (board_.At(to) == CellEmpty) to += step;
-        if (board_.At(to) != CellCorner) continue;
-        pv_[ply][ply] = SearchMove{static_cast<std::uint8_t>(king), static_cast<std::uint8_t>(to)};
-        pvLength_[ply] = ply + 1;
-        break;
-    }
+    if (board_.KingMoveHome(pv_[ply][ply])) pvLength_[ply] = ply + 1;
     return SearchWin - (ply + 1);
 }
 
-void Searcher::Order(const SearchMove* moves, int n, int* order, SearchMove tableMove, int ply) const {
+void Searcher::Order(const BoardMove* moves, int n, int* order, BoardMove tableMove, int ply) const {
     const bool attacker = board_.SideToMove() == AttackerCode;
     for (int i = 0; i < n; ++i) {
-        const SearchMove m = moves[i];
+        const BoardMove m = moves[i];
         if (m == tableMove) order[i] = TableMoveOrder;
         else if (board_.Captures(m) || (attacker && Beside(board_.King(), m.To))) order[i] = CaptureOrder;
         else if (m == killers_[ply][0]) order[i] = KillerOrder;
@@ -159,7 +149,7 @@ void Searcher::Order(const SearchMove* moves, int n, int* order, SearchMove tabl
 }
 
 // A quiet move that refuted the position: a killer at its ply, and its history grows.
-void Searcher::Prefer(SearchMove m, int depth, int ply) {
+void Searcher::Prefer(BoardMove m, int depth, int ply) {
     if (!(killers_[ply][0] == m)) {
         killers_[ply][1] = killers_[ply][0];
         killers_[ply][0] = m;
@@ -176,11 +166,11 @@ int Searcher::Quiesce(int alpha, int beta, int ply, int qply) {
     if (ply >= SearchMaxPly - 1 || Stopped()) return Evaluate();
 
     const bool threatened = board_.SideToMove() == AttackerCode && board_.KingRoutes() > 0;
-    SearchMove moves[MaxSearchMoves];
+    BoardMove moves[MaxMoves];
     int n = 0;
     int best = -Infinity;
     if (threatened) {
-        std::array<bool, SearchCells> lines{};
+        std::array<bool, CellCount> lines{};
         board_.KingRoutes(&lines);
         n = ThreatAnswers(moves, lines);
         best = -(SearchWin - (ply + 2));
@@ -192,12 +182,12 @@ int Searcher::Quiesce(int alpha, int beta, int ply, int qply) {
     alpha = std::max(alpha, best);
     const int king = board_.King();
     for (int i = 0; i < n; ++i) {
-        const SearchMove m = moves[i];
-        SearchUndo undo;
+        const BoardMove m = moves[i];
+        MoveUndo undo;
         board_.Make(m, undo);
         ++nodes_;
         int score;
-        if (board_.Status() != SearchStatus::Playing) {
+        if (board_.State() != GameState::GoesOn) {
             score = SearchWin - (ply + 1);
         } else if (m.From == king && board_.KingRoutes() == 0 && undo.Count == 0) {
             // A King move that neither takes a piece nor opens a line to a corner is not a threat.
@@ -222,13 +212,13 @@ int Searcher::Quiesce(int alpha, int beta, int ply, int qply) {
 // The attackers facing a free line from the King to a corner: only their
 // moves onto that line or beside him (which may take him) can save them;
 // every move when he is closed in already, for any move then takes him.
-int Searcher::ThreatAnswers(SearchMove* moves, const std::array<bool, SearchCells>& lines) const {
+int Searcher::ThreatAnswers(BoardMove* moves, const std::array<bool, CellCount>& lines) const {
     if (board_.KingSurrounded()) return board_.Generate(moves);
-    std::uint8_t targets[SearchCells];
+    std::uint8_t targets[CellCount];
     int count = 0;
-    for (int cell = 0; cell < SearchCells; ++cell)
+    for (int cell = 0; cell < CellCount; ++cell)
         if (lines[cell]) targets[count++] = static_cast<std::uint8_t>(cell);
-    for (int step : Steps)
+    for (int step : CellSteps)
         if (!lines[board_.King() + step]) targets[count++] = static_cast<std::uint8_t>(board_.King() + step);
     return board_.GenerateOnto(targets, count, moves);
 }
@@ -242,7 +232,7 @@ int Searcher::Negamax(int depth, int alpha, int beta, int ply, bool nullAllowed)
 
     const bool pvNode = beta - alpha > 1;
     const TableEntry* entry = table_.Find(board_.Key());
-    const SearchMove tableMove = entry ? entry->Move : SearchMove{};
+    const BoardMove tableMove = entry ? entry->Move : BoardMove{};
     if (entry && !pvNode && entry->Depth >= depth) {
         const int score = FromTable(entry->Score, ply);
         if (entry->Kind == Bound::Exact || (entry->Kind == Bound::Lower && score >= beta) ||
@@ -261,21 +251,21 @@ int Searcher::Negamax(int depth, int alpha, int beta, int ply, bool nullAllowed)
         if (score >= beta && !IsWinScore(score)) return score;
     }
 
-    SearchMove moves[MaxSearchMoves];
+    BoardMove moves[MaxMoves];
     int n = board_.Generate(moves);
     if (n == 0) return -(SearchWin - ply);   // a side that cannot move has lost
     if (threatened) {
-        std::array<bool, SearchCells> lines{};
+        std::array<bool, CellCount> lines{};
         board_.KingRoutes(&lines);
         n = ThreatAnswers(moves, lines);
         if (n == 0) return -(SearchWin - (ply + 2));
     }
-    int order[MaxSearchMoves];
+    int order[MaxMoves];
     Order(moves, n, order, tableMove, ply);
 
     const int alphaBefore = alpha;
     int best = -Infinity;
-    SearchMove bestMove = moves[0];
+    BoardMove bestMove = moves[0];
     for (int i = 0; i < n; ++i) {
         // The first moves are picked one at a time, as a cut-off often comes
         // early; past them the rest is sorted at once.
@@ -286,14 +276,14 @@ int Searcher::Negamax(int depth, int alpha, int beta, int ply, bool nullAllowed)
         } else if (i == SortedPicks) {
             SortRest(moves + i, order + i, n - i);
         }
-        const SearchMove m = moves[i];
+        const BoardMove m = moves[i];
         const bool quiet = order[i] < KillerOrder - 1;
 
-        SearchUndo undo;
+        MoveUndo undo;
         board_.Make(m, undo);
         ++nodes_;
         int score;
-        if (board_.Status() != SearchStatus::Playing) {
+        if (board_.State() != GameState::GoesOn) {
             score = SearchWin - (ply + 1);
         } else {
             keys_[ply + 1] = board_.Key();
@@ -328,22 +318,22 @@ int Searcher::Negamax(int depth, int alpha, int beta, int ply, bool nullAllowed)
 
 std::vector<Move> Searcher::Pv() const {
     std::vector<Move> line;
-    for (int p = 0; p < pvLength_[0]; ++p) line.push_back(ToBoardMove(pv_[0][p]));
+    for (int p = 0; p < pvLength_[0]; ++p) line.push_back(RuleBoard::ToMove(pv_[0][p]));
     return line;
 }
 
 SearchResult Searcher::Run(const std::function<void(const SearchProgress&)>& onProgress) {
     SearchResult result;
-    SearchMove moves[MaxSearchMoves];
-    const int n = board_.Status() == SearchStatus::Playing ? board_.Generate(moves) : 0;
+    BoardMove moves[MaxMoves];
+    const int n = board_.State() == GameState::GoesOn ? board_.Generate(moves) : 0;
     if (n == 0) return result;
     result.HasMove = true;
-    result.Best = ToBoardMove(moves[0]);   // should even the first depth be cut short
+    result.Best = RuleBoard::ToMove(moves[0]);   // should even the first depth be cut short
     keys_[0] = board_.Key();
     for (int depth = 1; depth <= std::min(limits_.MaxDepth, SearchMaxPly / 2); ++depth) {
         const int score = Negamax(depth, -Infinity, Infinity, 0, false);
         if (stopped_) {
-            if (depth == 1 && pvLength_[0] > 0) result.Best = ToBoardMove(pv_[0][0]);
+            if (depth == 1 && pvLength_[0] > 0) result.Best = RuleBoard::ToMove(pv_[0][0]);
             break;
         }
         result.Score = score;
@@ -364,7 +354,7 @@ SearchResult Searcher::Run(const std::function<void(const SearchProgress&)>& onP
 
 }  // namespace
 
-std::uint64_t PositionKey(const Position& g, int side) { return SearchBoard(g, side).Key(); }
+std::uint64_t PositionKey(const Position& g, int side) { return RuleBoard(g, side).Key(); }
 
 SearchResult SearchBestMove(const Position& g, int side, const SearchLimits& limits,
                             const std::function<void(const SearchProgress&)>& onProgress) {

@@ -2,7 +2,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "ai/SearchBoard.h"
+#include "core/RuleBoard.h"
 
 namespace jv {
 
@@ -15,7 +15,7 @@ enum class Bound : std::uint8_t { None, Exact, Lower, Upper };
 struct TableEntry {
     std::uint64_t Key = 0;
     std::int32_t Score = 0;
-    SearchMove Move;
+    BoardMove Move;
     std::int8_t Depth = 0;
     Bound Kind = Bound::None;
 };

@@ -6,7 +6,7 @@
 #include <filesystem>
 #include <vector>
 
-#include "ai/SearchBoard.h"
+#include "core/RuleBoard.h"
 #include "cli/CliView.h"
 #include "cli/Commands.h"
 #include "core/Analysis.h"
@@ -94,7 +94,7 @@ int Pieces(const Game& g) {
 // What a move did that no move may do: break the rules of the position it
 // was made in, add a piece, take one without a capture, or leave the King's
 // square without the King.
-std::string MoveFault(const Game& g, const SoakMove& m, const SearchBoard& before, int piecesBefore) {
+std::string MoveFault(const Game& g, const SoakMove& m, const RuleBoard& before, int piecesBefore) {
     if (!before.Allows(m.Played()))
         return "the move " + SquareName(g, m.FromCol, m.FromRow) + " > " + SquareName(g, m.ToCol, m.ToRow) +
                " is not legal";
@@ -204,7 +204,7 @@ bool RunSoakOn(const SoakOptions& o, SoakReport& r) {
         if (moves.size() == warmUp && r.Start.InUse == -1) r.Start = ReadMemory(g);
         SoakMove move;
         const int piecesBefore = Pieces(g);
-        const SearchBoard before(g, side);
+        const RuleBoard before(g, side);
         bool over = GameOver(g, side, r);
         if (!over && !PlayTurn(g, view, side, move, r)) {
             ++r.Stalemates;

@@ -5,6 +5,7 @@
 #include "core/DrawCode.h"
 #include "core/EventLog.h"
 #include "core/GameView.h"
+#include "core/RuleBoard.h"
 #include "core/VbText.h"
 
 namespace jv {
@@ -23,49 +24,13 @@ void RepaintDestination(Game& g, int col, int row) {
 }
 
 
-// The victim of the piece on (col, row) with code mover, in the fixed order
-// of directions; false when there is none. The Home corners count as the
-// mover's own pieces while the test runs.
-bool FindVictim(Game& g, int col, int row, int mover, int& victimCol, int& victimRow) {
-    const int enemy = mover == AttackerCode ? DefenderCode : AttackerCode;
-    static constexpr int Steps[4][2] = {{0, -1}, {0, 1}, {1, 0}, {-1, 0}};
-    SetHomeSquares(g, mover);
-    bool found = false;
-    for (const auto& step : Steps) {
-        const int c = col + step[0], r = row + step[1];
-        if (g.Board(c, r) == enemy && g.Board(c + step[0], r + step[1]) == mover) {
-            victimCol = c;
-            victimRow = r;
-            found = true;
-            break;
-        }
-    }
-    SetHomeSquares(g, HomeCode);
-    return found;
-}
-
-// After the capture's pause: the victim is taken only when the piece on
-// (col, row) is still the mover and the search still finds that victim, not
-// the King. An undo or another move made during the pause may have moved any
-// of them, and a piece no longer sandwiched (the King above all) must not
-// vanish.
-bool VictimStillTaken(Game& g, int col, int row, int mover, int victimCol, int victimRow) {
-    int c = 0, r = 0;
-    return g.Board(col, row) == mover && FindVictim(g, col, row, mover, c, r) && c == victimCol &&
-           r == victimRow && !IsKingOn(g, c, r);
-}
-
-bool IsAttacker(const Position& g, int col, int row) { return g.Board(col, row) == AttackerCode; }
-
-bool KingSurrounded(const Position& g) {
-    const int c = g.KingCol, r = g.KingRow;
-    const bool up = IsAttacker(g, c - 1, r), down = IsAttacker(g, c + 1, r);
-    const bool left = IsAttacker(g, c, r - 1), right = IsAttacker(g, c, r + 1);
-    if (r == 1 && down && up && right) return true;
-    if (r == g.BoardHeight && down && up && left) return true;
-    if (c == 1 && right && left && down) return true;
-    if (c == g.BoardWidth && right && left && up) return true;
-    return up && down && left && right;
+// The first piece that the piece on the square takes on the board as it
+// stands, as the rule board finds it; false when it takes none.
+bool FirstVictim(const Game& g, const Square& at, Square& victim) {
+    std::uint8_t taken[MoveUndo::MaxTaken];
+    if (RuleBoard(g, DefenderCode).TakenBy(CellOf(at), taken) == 0) return false;
+    victim = Square{ColOf(taken[0]), RowOf(taken[0])};
+    return true;
 }
 
 }  // namespace
@@ -114,35 +79,26 @@ void AnimateMove(Game& g, const Move& m) {
 
 void CaptureAround(Game& g, int col, int row) {
     const int gameNumber = g.GameNumber;
+    const Square at{col, row};
     HideDragLine(g);
     for (;;) {
         const int mover = g.Board(col, row);
-        if (mover != AttackerCode && mover != DefenderCode) return;
-        int victimCol = 0, victimRow = 0;
-        if (!FindVictim(g, col, row, mover, victimCol, victimRow)) return;
-        // The King is never taken by two; the directions after his are not
-        // looked at, so a second piece sandwiched further on stays standing.
-        if (IsKingOn(g, victimCol, victimRow)) return;
-
-        g.View->MarkVictim(victimCol, victimRow);
+        Square victim;
+        if (!FirstVictim(g, at, victim)) return;
+        g.View->MarkVictim(victim.Col, victim.Row);
         g.View->Pause(1000);
         if (!GameGoesOn(g, gameNumber)) return;
-        // Otherwise the search starts again on the position as it now stands.
-        if (!VictimStillTaken(g, col, row, mover, victimCol, victimRow)) continue;
-        g.Board(victimCol, victimRow) = EmptyCode;
-        PrintLog(g, "  Player" + Str(mover + 1) + " captures " + SquareName(g, victimCol, victimRow), mover + 1, 0);
-        g.View->DrawSquare(victimCol, victimRow, BoardBackColourValue(g));
+        // An undo or another move made during the pause may have moved any
+        // of them: the victim is taken only when the same piece still takes
+        // it on the board as it now stands; otherwise the search starts again.
+        Square again;
+        if (g.Board(col, row) != mover || !FirstVictim(g, at, again) || again != victim) continue;
+        g.Board(victim.Col, victim.Row) = EmptyCode;
+        PrintLog(g, "  Player" + Str(mover + 1) + " captures " + SquareName(g, victim.Col, victim.Row), mover + 1, 0);
+        g.View->DrawSquare(victim.Col, victim.Row, BoardBackColourValue(g));
     }
 }
 
-bool CheckKingCapture(Position& g) {
-    // A King that is not on the board (the editor can leave him off it)
-    // cannot be surrounded; his neighbours would also lie outside the grid.
-    if (g.KingCol < 1 || g.KingCol > g.BoardWidth || g.KingRow < 1 || g.KingRow > g.BoardHeight) return false;
-    SetHomeSquares(g, AttackerCode);
-    const bool captured = KingSurrounded(g);
-    SetHomeSquares(g, HomeCode);
-    return captured;
-}
+bool CheckKingCapture(const Position& g) { return RuleBoard(g, AttackerCode).KingSurrounded(); }
 
 }  // namespace jv

@@ -10,13 +10,13 @@ void MovePiece(Game& g, const Move& m);
 // Shows the drag line from source to target for a second.
 void AnimateMove(Game& g, const Move& m);
 
-// Takes every enemy piece sandwiched by the piece that has just moved to
-// (col, row), one second apart.
+// Takes the pieces that the piece which has just moved to (col, row) takes
+// by the rule board, one second apart: each is marked, and after the pause
+// taken only when it still is on the board as it then stands.
 void CaptureAround(Game& g, int col, int row);
 
-// True when the King is taken: by four attackers, or by three against the
-// edge, a Home corner beside him counting as an attacker.
-bool CheckKingCapture(Position& g);
+// True when the King stands taken, as the rule board finds him.
+bool CheckKingCapture(const Position& g);
 
 // A move's pauses let pending events run, so the user's clicks arrive in the
 // middle of it. What is left of the move belongs to the game it began in:

@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "core/Board.h"
-#include "core/Move.h"
+#include "core/RuleBoard.h"
 #include "core/SilentView.h"
 #include "core/VbText.h"
 #include "records/Notation.h"
@@ -15,14 +15,6 @@
 namespace jv {
 
 namespace {
-
-// The view of the game on which each move is made again: it shows nothing
-// and keeps the squares CaptureAround takes, in the order it takes them.
-class TakingsView : public SilentView {
-public:
-    std::vector<Square> Taken;
-    void MarkVictim(int col, int row) override { Taken.push_back(Square{col, row}); }
-};
 
 bool AllDigits(std::string_view text) {
     for (char c : text)
@@ -169,31 +161,25 @@ bool FindMove(const Game& g, const LoggedPosition& before, const LoggedPosition&
     return true;
 }
 
-// The move runs along a rank or a file over empty squares onto an empty
-// square, or the King's onto a Home corner.
-bool CheckPath(const Position& g, const Move& m, bool king, const std::string& text, std::string& reason) {
-    if ((m.From.Col != m.To.Col) == (m.From.Row != m.To.Row)) {
-        reason = text + " runs along neither a rank nor a file";
-        return false;
+// Why the rules refuse the move written as text, in the record's words.
+std::string RefusalText(const Position& g, const MoveCheck& check, const std::string& text) {
+    const std::string at = StandardSquareName(g.BoardWidth, check.At.Col, check.At.Row);
+    switch (check.Why) {
+        case Refusal::None: return "";
+        case Refusal::OffTheBoard: return text + " leaves the board";
+        case Refusal::GameOver: return text + ": the game is over";
+        case Refusal::NotYourPiece: return text + ": " + at + " holds no piece of the side to move";
+        case Refusal::NotStraight: return text + " runs along neither a rank nor a file";
+        case Refusal::PassesOver: return text + " passes over " + at;
+        case Refusal::TargetTaken: return text + " ends on " + at + ", which is not empty";
+        case Refusal::CornerForKing: return text + ": only the King may enter a corner";
+        case Refusal::CentreForKing: return text + ": only the King may stop on the centre";
     }
-    const int dc = m.To.Col > m.From.Col ? 1 : m.To.Col < m.From.Col ? -1 : 0;
-    const int dr = m.To.Row > m.From.Row ? 1 : m.To.Row < m.From.Row ? -1 : 0;
-    for (int c = m.From.Col + dc, r = m.From.Row + dr; c != m.To.Col || r != m.To.Row; c += dc, r += dr)
-        if (g.Board(c, r) != EmptyCode) {
-            reason = text + " passes over " + StandardSquareName(g.BoardWidth, c, r);
-            return false;
-        }
-    const int target = g.Board(m.To.Col, m.To.Row);
-    if (target == HomeCode && !king) {
-        reason = text + ": only the King may enter a corner";
-        return false;
-    }
-    if (target != EmptyCode && target != HomeCode) {
-        reason = text + " ends on " + StandardSquareName(g.BoardWidth, m.To.Col, m.To.Row) + ", which is not empty";
-        return false;
-    }
-    return true;
+    return text + " is not a move";
 }
+
+// The side whose piece a kind names.
+int SideOf(char kind) { return IsDefender(kind) ? DefenderCode : AttackerCode; }
 
 void SetBoard(Game& g, const LoggedPosition& p) {
     for (int col = 1; col <= g.BoardWidth; ++col)
@@ -206,22 +192,24 @@ void SetBoard(Game& g, const LoggedPosition& p) {
     g.KingRow = p.KingRow;
 }
 
-// Makes the move on the scratch game as the game makes it: the King taken
-// by an attacker's move, or at Home, ends it; otherwise it captures. Gives
-// the mark written after the move ("++" the King taken, "--" the King home).
-std::string MakeMoveAgain(Game& g, TakingsView& view, const FoundMove& m) {
-    view.Taken.clear();
-    g.Board(m.To.Col, m.To.Row) = g.Board(m.From.Col, m.From.Row);
-    g.Board(m.From.Col, m.From.Row) = EmptyCode;
-    if (m.Kind == 'K') {
-        g.KingCol = m.To.Col;
-        g.KingRow = m.To.Row;
-    }
-    if (m.Kind == 'a' && CheckKingCapture(g)) return "++";
-    if (m.Kind == 'K' && IsCorner(g, m.To.Col, m.To.Row)) return "--";
-    CaptureAround(g, m.To.Col, m.To.Row);
-    g.EventLog.clear();
-    return "";
+// A move made on the rule board: the squares it took, in the order it took
+// them, and the mark written after it ("++" the King taken, "--" the King
+// home).
+struct MadeMove {
+    std::vector<Square> Taken;
+    std::string Mark;
+};
+
+// Makes a move the rule board allows on the scratch game's position.
+MadeMove MakeOnBoard(Position& g, const Move& m, int side) {
+    RuleBoard board(g, side);
+    MoveUndo undo;
+    board.Make(RuleBoard::ToBoardMove(m), undo);
+    board.WriteTo(g);
+    MadeMove made;
+    for (int i = 0; i < undo.Count; ++i) made.Taken.push_back(Square{ColOf(undo.Taken[i]), RowOf(undo.Taken[i])});
+    made.Mark = board.State() == GameState::KingTaken ? "++" : board.State() == GameState::KingHome ? "--" : "";
+    return made;
 }
 
 // A move as the record writes it, and the side that made it.
@@ -232,72 +220,70 @@ struct MoveText {
 
 // The standard text of the move from before to after; false with the reason
 // when after is not what one move makes of before.
-bool ReadMove(Game& g, TakingsView& view, const LoggedPosition& before, const LoggedPosition& after, MoveText& text,
+bool ReadMove(Game& g, const LoggedPosition& before, const LoggedPosition& after, MoveText& text,
               std::string& reason) {
     FoundMove m;
     if (!FindMove(g, before, after, m, reason)) return false;
     const std::string move = WrittenText(g, Move{m.From, m.To}, m.Kind == 'K');
     SetBoard(g, before);
-    if (!CheckPath(g, Move{m.From, m.To}, m.Kind == 'K', move, reason)) return false;
-    const std::string mark = MakeMoveAgain(g, view, m);
+    reason = RefusalText(g, RuleBoard(g, SideOf(m.Kind)).Check(Move{m.From, m.To}), move);
+    if (!reason.empty()) return false;
+    const MadeMove made = MakeOnBoard(g, Move{m.From, m.To}, SideOf(m.Kind));
     if (EncodePosition(g) != after.Line.substr(4)) {
-        if (SameSquares(view.Taken, m.Gone)) {
+        if (SameSquares(made.Taken, m.Gone)) {
             reason = "the position after " + move + " is not the one it makes";
         } else {
-            reason = move + " takes " + Names(g, view.Taken, "nothing") + ", but " + Names(g, m.Gone, "nothing") +
+            reason = move + " takes " + Names(g, made.Taken, "nothing") + ", but " + Names(g, m.Gone, "nothing") +
                      (m.Gone.size() > 1 ? " are" : " is") + " gone";
         }
         return false;
     }
-    text.Text = move + (view.Taken.empty() ? "" : "x" + Names(g, view.Taken, "")) + mark;
+    text.Text = move + (made.Taken.empty() ? "" : "x" + Names(g, made.Taken, "")) + made.Mark;
     text.Defenders = IsDefender(m.Kind);
     return true;
 }
 
-// Every move of every piece of before along a free line onto an empty
-// square, with the position each leaves behind; a move that ends the game
-// (the King taken) leaves none.
+// Every move of either side from before that leaves the game going on and
+// does not end on a corner, with the position it leaves behind.
 template <typename Visit>
-void ForEachMove(Game& g, TakingsView& view, const LoggedPosition& before, Visit visit) {
-    static constexpr int Steps[4][2] = {{-1, 0}, {1, 0}, {0, -1}, {0, 1}};
-    for (int col = 1; col <= g.BoardWidth; ++col)
-        for (int row = 1; row <= g.BoardHeight; ++row) {
-            const char kind = before.Kind(col, row);
-            if (kind == '.') continue;
-            for (const auto& step : Steps)
-                for (int c = col + step[0], r = row + step[1];
-                     c >= 1 && c <= g.BoardWidth && r >= 1 && r <= g.BoardHeight && before.Letter(c, r) == 'E';
-                     c += step[0], r += step[1]) {
-                    FoundMove m;
-                    m.From = Square{col, row};
-                    m.To = Square{c, r};
-                    m.Kind = kind;
-                    SetBoard(g, before);
-                    if (!MakeMoveAgain(g, view, m).empty()) continue;
-                    LoggedPosition middle = before;
-                    middle.Line.replace(4, std::string::npos, EncodePosition(g));
-                    middle.KingCol = g.KingCol;
-                    middle.KingRow = g.KingRow;
-                    visit(middle);
-                }
+void ForEachMove(Game& g, const LoggedPosition& before, Visit visit) {
+    for (int side : {DefenderCode, AttackerCode}) {
+        SetBoard(g, before);
+        RuleBoard board(g, side);
+        BoardMove moves[MaxMoves];
+        const int n = board.Generate(moves);
+        for (int i = 0; i < n; ++i) {
+            if (board.At(moves[i].To) == CellCorner) continue;
+            MoveUndo undo;
+            board.Make(moves[i], undo);
+            if (board.State() == GameState::GoesOn) {
+                board.WriteTo(g);
+                LoggedPosition middle = before;
+                middle.Line.replace(4, std::string::npos, EncodePosition(g));
+                middle.KingCol = g.KingCol;
+                middle.KingRow = g.KingRow;
+                visit(middle);
+            }
+            board.Unmake(moves[i], undo);
         }
+    }
 }
 
 // The King's winning move onto a corner is not logged, so a log (or the
 // undo history) may hold the position one move before it and then the King
 // at Home: two moves apart, the second the King's escape. Both are read
 // when exactly one move fits before the escape; false otherwise.
-bool ReadMoveAndEscape(Game& g, TakingsView& view, const LoggedPosition& before, const LoggedPosition& after,
+bool ReadMoveAndEscape(Game& g, const LoggedPosition& before, const LoggedPosition& after,
                        std::vector<MoveText>& moves, std::string& reason) {
     const int kc = after.KingCol, kr = after.KingRow;
     const bool kingHome = kc >= 1 && kc <= g.BoardWidth && kr >= 1 && kr <= g.BoardHeight && IsCorner(g, kc, kr) &&
                           after.Kind(kc, kr) == 'K';
     if (!kingHome) return false;
     std::vector<std::vector<MoveText>> found;
-    ForEachMove(g, view, before, [&](const LoggedPosition& middle) {
+    ForEachMove(g, before, [&](const LoggedPosition& middle) {
         std::string ignored;
         std::vector<MoveText> pair(2);
-        if (!ReadMove(g, view, before, middle, pair[0], ignored) || !ReadMove(g, view, middle, after, pair[1], ignored))
+        if (!ReadMove(g, before, middle, pair[0], ignored) || !ReadMove(g, middle, after, pair[1], ignored))
             return;
         if (pair[1].Text.size() > 2 && pair[1].Text.compare(pair[1].Text.size() - 2, 2, "--") == 0)
             found.push_back(pair);
@@ -439,16 +425,13 @@ std::string RefuseWrittenMove(const Game& g, const WrittenMove& w, char side) {
         return StandardSquare(g, m.From.Col, m.From.Row) + " holds no piece of the " +
                (side == 'a' ? "attackers" : "defenders");
     if (w.King && kind != 'K') return "the King does not stand on " + StandardSquare(g, m.From.Col, m.From.Row);
-    std::string reason;
-    if (!CheckPath(g, m, kind == 'K', text, reason)) return reason;
-    TakingsView view;
-    Game scratch;
-    scratch.View = &view;
-    static_cast<Position&>(scratch) = g;
-    const std::string end = MakeMoveAgain(scratch, view, FoundMove{m.From, m.To, kind, {}});
-    if (w.CapturesWritten && !SameSquares(view.Taken, w.Captures))
-        return text + " takes " + Names(g, view.Taken, "nothing") + ", not " + Names(g, w.Captures, "");
-    if ((w.Mark == "++" || w.Mark == "--") && w.Mark != end)
+    const std::string reason = RefusalText(g, RuleBoard(g, SideOf(kind)).Check(m), text);
+    if (!reason.empty()) return reason;
+    Position scratch = g;
+    const MadeMove made = MakeOnBoard(scratch, m, SideOf(kind));
+    if (w.CapturesWritten && !SameSquares(made.Taken, w.Captures))
+        return text + " takes " + Names(g, made.Taken, "nothing") + ", not " + Names(g, w.Captures, "");
+    if ((w.Mark == "++" || w.Mark == "--") && w.Mark != made.Mark)
         return text + (w.Mark == "++" ? " does not take the King" : " does not bring the King home");
     return "";
 }
@@ -460,7 +443,7 @@ GameRecordResult MakeGameRecord(const std::vector<std::string>& layoutLines) {
     if (width != height)
         return Refuse(1, "the board is " + std::to_string(width) + "x" + std::to_string(height) +
                              ", where a record holds a square board");
-    TakingsView view;
+    SilentView view;
     Game g;
     g.View = &view;
     BuildColumnLetters(g);
@@ -476,8 +459,7 @@ GameRecordResult MakeGameRecord(const std::vector<std::string>& layoutLines) {
         if (!ReadPosition(g, layoutLines[i], after, reason)) return Refuse(lineNumber, reason);
         if (after.Line == before.Line) continue;
         std::vector<MoveText> moves(1);
-        if (!ReadMove(g, view, before, after, moves.front(), reason) &&
-            !ReadMoveAndEscape(g, view, before, after, moves, reason))
+        if (!ReadMove(g, before, after, moves.front(), reason) && !ReadMoveAndEscape(g, before, after, moves, reason))
             return Refuse(lineNumber, reason);
         for (const MoveText& move : moves)
             if (!numbers.Add(move.Text, move.Defenders, reason)) return Refuse(lineNumber, reason);
@@ -500,7 +482,7 @@ OtnGameResult ReadOtnGame(const std::string& text) {
     std::string start;
     bool attackersFirst = true;
     if (!ReadRules(parts, start, attackersFirst, result.Reason)) return result;
-    TakingsView view;
+    SilentView view;
     Game g;
     g.View = &view;
     BuildColumnLetters(g);
@@ -527,7 +509,7 @@ OtnGameResult ReadOtnGame(const std::string& text) {
             result.Reason = where + refusal;
             return result;
         }
-        end = MakeMoveAgain(g, view, FoundMove{w.Squares.From, w.Squares.To, KindOn(g, w.Squares.From), {}});
+        end = MakeOnBoard(g, w.Squares, side == 'a' ? AttackerCode : DefenderCode).Mark;
         result.Positions.push_back(LineOf(g));
     }
     result.Ok = true;

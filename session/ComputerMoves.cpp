@@ -5,7 +5,7 @@
 #include "ai/AttackerRank.h"
 #include "ai/DefenderRank.h"
 #include "ai/Search.h"
-#include "ai/SearchBoard.h"
+#include "core/RuleBoard.h"
 #include "core/Analysis.h"
 #include "core/Board.h"
 #include "core/EventLog.h"

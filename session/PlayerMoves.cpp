@@ -4,6 +4,7 @@
 #include "core/Board.h"
 #include "core/GameView.h"
 #include "core/Move.h"
+#include "core/RuleBoard.h"
 #include "session/ComputerMoves.h"
 #include "session/Undo.h"
 
@@ -92,38 +93,32 @@ void DropPiece(Game& g, int col, int row) {
     const Square source = g.DragSource;
     if (col == source.Col && row == source.Row) return;
     if (source.Col < 1 || source.Col > g.BoardWidth || source.Row < 1 || source.Row > g.BoardHeight) return;
-    const bool kingMoves = IsKingOn(g, source.Col, source.Row);
+    const int mover = g.Board(source.Col, source.Row);
+    const Move move{source, {col, row}};
 
-    const int target = g.Board(col, row);
-    if (target == HomeCode && kingMoves) {
+    RuleBoard board(g, mover == AttackerCode ? AttackerCode : DefenderCode);
+    const Refusal refusal = board.Check(move).Why;
+    // A drop on the centre is cancelled; any other refused drop leaves the
+    // drag line where it is.
+    if (refusal == Refusal::CentreForKing) HideDragLine(g);
+    if (refusal != Refusal::None) return;
+    MoveUndo undo;
+    board.Make(RuleBoard::ToBoardMove(move), undo);
+    if (board.State() == GameState::KingHome) {
         // The winning move is not recorded for undo, nor logged.
         HideDragLine(g);
-        g.Board(source.Col, source.Row) = EmptyCode;
-        g.KingCol = col;
-        g.KingRow = row;
-        g.Board(col, row) = DefenderCode;
+        board.WriteTo(g);
         g.View->DrawBoard();
         EndGame(g, "King at Home !", "vbhappy+vbok");
         return;
     }
-    if (target != EmptyCode) return;   // refused; the drag line stays
-    if (col == g.CentreCol && row == g.CentreRow && !kingMoves) {
-        HideDragLine(g);   // only the King may stop on the centre
-        return;
-    }
 
-    const int mover = g.Board(source.Col, source.Row);
     RecordMove(g);
-    MoveAndMark(g, {{source.Col, source.Row}, {col, row}});
-    if (mover == AttackerCode && CheckKingCapture(g)) {
+    MoveAndMark(g, move);
+    if (board.State() == GameState::KingTaken) {
         // As for the computer's attackers: the King's capture is the whole move.
         HideDragLine(g);
         EndGame(g, "King Captured !", "vbcritical+vbok");
-        return;
-    }
-    if (KingAtHome(g)) {
-        HideDragLine(g);
-        EndGame(g, "King at Home !", "vbhappy+vbok");
         return;
     }
     const int gameNumber = g.GameNumber;

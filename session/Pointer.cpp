@@ -5,6 +5,7 @@
 #include "core/Board.h"
 #include "core/Move.h"
 #include "core/Reach.h"
+#include "core/RuleBoard.h"
 #include "session/PlayerMoves.h"
 
 namespace jv {
@@ -15,8 +16,6 @@ bool InPlay(const Game& g, int col, int row) {
     return col >= 1 && col <= g.BoardWidth && row >= 1 && row <= g.BoardHeight;
 }
 
-bool IsKingSquare(const Game& g, int col, int row) { return col == g.KingCol && row == g.KingRow; }
-
 // True when the target list ("0305,0306,") holds the square (squares in
 // play have two-digit numbers).
 bool ListsSquare(std::string_view targets, int col, int row) {
@@ -24,22 +23,6 @@ bool ListsSquare(std::string_view targets, int col, int row) {
                           static_cast<char>('0' + row / 10), static_cast<char>('0' + row % 10)};
     for (std::size_t i = 0; i + 4 <= targets.size(); i += 5)
         if (targets.compare(i, 4, std::string_view(item, 4)) == 0) return true;
-    return false;
-}
-
-// True when (col, row) is a Home corner that stops one of the straight lines
-// of empty squares leading out of the King's square.
-bool KingReachesHome(const Game& g, int col, int row) {
-    if (!IsCorner(g, col, row) || g.Board(col, row) != HomeCode) return false;
-    static constexpr int Steps[4][2] = {{-1, 0}, {1, 0}, {0, -1}, {0, 1}};
-    for (const auto& step : Steps) {
-        int c = g.KingCol + step[0], r = g.KingRow + step[1];
-        while (InPlay(g, c, r) && g.Board(c, r) == EmptyCode) {
-            c += step[0];
-            r += step[1];
-        }
-        if (c == col && r == row) return true;
-    }
     return false;
 }
 
@@ -71,7 +54,8 @@ bool AcceptsDrop(const Game& g, int col, int row) {
     const Square source = g.DragSource;
     if (!g.BoardEnabled || !InPlay(g, source.Col, source.Row) || !InPlay(g, col, row)) return false;
     if (ListsSquare(PieceTargets(g, source.Col, source.Row), col, row)) return true;
-    return IsKingSquare(g, source.Col, source.Row) && KingReachesHome(g, col, row);
+    // The King's way home ends on a corner, which no reach list holds.
+    return IsCorner(g, col, row) && IsLegalMove(g, DefenderCode, Move{source, Square{col, row}});
 }
 
 bool EndDrag(Game& g, int col, int row) {
@@ -94,7 +78,7 @@ std::string PointerHint(const Game& g, int col, int row) {
     if (!InPlay(g, col, row)) return "";
     const char* what = "empty";
     const int code = g.Board(col, row);
-    if (IsKingSquare(g, col, row) && code == DefenderCode) what = "King";
+    if (IsKingOn(g, col, row) && code == DefenderCode) what = "King";
     else if (code == DefenderCode) what = "defender";
     else if (code == AttackerCode) what = "attacker";
     else if (code == HomeCode) what = "Home";

@@ -2,22 +2,12 @@
 
 #include "core/Board.h"
 #include "core/Move.h"
+#include "core/RuleBoard.h"
 #include "session/ComputerMoves.h"
 
 namespace jv {
 
-bool KingHasFreeRun(const Game& g) {
-    static constexpr int Steps[4][2] = {{-1, 0}, {1, 0}, {0, -1}, {0, 1}};
-    for (const auto& step : Steps) {
-        int c = g.KingCol + step[0], r = g.KingRow + step[1];
-        while (c >= 1 && c <= g.BoardWidth && r >= 1 && r <= g.BoardHeight && g.Board(c, r) == EmptyCode) {
-            c += step[0];
-            r += step[1];
-        }
-        if (c >= 1 && c <= g.BoardWidth && r >= 1 && r <= g.BoardHeight && IsCorner(g, c, r)) return true;
-    }
-    return false;
-}
+bool KingHasFreeRun(const Game& g) { return RuleBoard(g, DefenderCode).KingRoutes() > 0; }
 
 AutoGameResult PlayAutoGame(Game& g, int maxMoves) {
     AutoGameResult result;

@@ -3,7 +3,7 @@
 
 #include "session/ComputerMoves.h"
 #include "ai/Search.h"
-#include "ai/SearchBoard.h"
+#include "core/RuleBoard.h"
 #include "core/Move.h"
 #include "core/Perft.h"
 #include "session/Pointer.h"
@@ -88,7 +88,7 @@ TEST(Search, OwnMoveCounterAgreesWithPerft) {
         t.g.Random.Timer = TickingClock(7);
         for (int round = 0; round < row.randomRounds; ++round) RedGreenRandom(t.g);
         for (int side : {DefenderCode, AttackerCode}) {
-            SearchBoard board(t.g, side);
+            RuleBoard board(t.g, side);
             for (int depth = 1; depth <= row.depths[side]; ++depth)
                 EXPECT_EQ(board.Perft(depth), Perft(t.g, depth, side))
                     << row.layout << " after " << row.randomRounds << " random rounds, " << SideName(side)
@@ -105,12 +105,12 @@ TEST(Search, KeysFollowEveryMoveAsAFreshCopyComputesThem) {
     PlacePieces(t.g, {".ad.a..", "a.da.d.", "dK.a..a", ".a.d.d.", "..a.a..", ".d...da", "..a...."});
     t.g.Check1 = false;   // the computer does not answer the user's drops
     for (int side : {DefenderCode, AttackerCode}) {
-        SearchBoard board(t.g, side);
+        RuleBoard board(t.g, side);
         const std::uint64_t key = board.Key(), count = board.Perft(3);
-        SearchMove moves[MaxSearchMoves];
+        BoardMove moves[MaxMoves];
         const int n = board.Generate(moves);
         for (int i = 0; i < n; ++i) {
-            const SearchMove m = moves[i];
+            const BoardMove m = moves[i];
             Game next = t.g;
             if (side == DefenderCode) {
                 ASSERT_TRUE(BeginDrag(next, ColOf(m.From), RowOf(m.From)));
@@ -118,9 +118,9 @@ TEST(Search, KeysFollowEveryMoveAsAFreshCopyComputesThem) {
             } else {
                 MakeAttackerMove(next, {{ColOf(m.From), RowOf(m.From)}, {ColOf(m.To), RowOf(m.To)}});
             }
-            SearchUndo undo;
+            MoveUndo undo;
             board.Make(m, undo);
-            EXPECT_EQ(board.Key(), SearchBoard(next, 1 - side).Key()) << SideName(side) << " move " << i;
+            EXPECT_EQ(board.Key(), RuleBoard(next, 1 - side).Key()) << SideName(side) << " move " << i;
             board.Unmake(m, undo);
         }
         EXPECT_EQ(board.Key(), key) << SideName(side);

@@ -1,0 +1,414 @@
+#include "core/RuleBoard.h"
+
+#include <algorithm>
+#include <bit>
+#include <bitset>
+
+#include "core/Board.h"
+
+namespace jv {
+
+namespace {
+
+// Fixed pseudo-random keys (splitmix64 from a constant seed), so that keys
+// and therefore searches repeat from run to run.
+struct ZobristKeys {
+    std::array<std::array<std::uint64_t, CellCount>, 4> Piece{};
+    std::uint64_t Side = 0;
+    ZobristKeys() {
+        std::uint64_t state = 0x4a61726c73566b74ULL;
+        auto next = [&state] {
+            std::uint64_t z = (state += 0x9e3779b97f4a7c15ULL);
+            z = (z ^ (z >> 30)) * 0xbf58476d1ce4e5b9ULL;
+            z = (z ^ (z >> 27)) * 0x94d049bb133111ebULL;
+            return z ^ (z >> 31);
+        };
+        for (auto& cells : Piece)
+            for (auto& key : cells) key = next();
+        Side = next();
+    }
+};
+
+const ZobristKeys& Keys() {
+    static const ZobristKeys keys;
+    return keys;
+}
+
+// The piece list of a cell's piece: 0 defenders (the King is kept apart), 1 attackers.
+int ListOf(int piece) { return piece == CellAttacker ? 1 : 0; }
+
+bool IsPiece(int cell) { return cell == CellAttacker || cell == CellDefender || cell == CellKing; }
+
+// The empty squares on both sides of bit `at` of a line's taken bits, as a
+// mask, and the bits of the two pieces, walls or corners that end them.
+struct Run {
+    std::uint32_t Squares, Ends;
+};
+
+Run RunAround(std::uint32_t taken, int at) {
+    // Bit 0 and the bit past the board are walls, so both searches find a bit.
+    const int above = std::countr_zero(taken >> (at + 1)) + at + 1;
+    const int below = std::bit_width(taken & ((1u << at) - 1)) - 1;
+    const std::uint32_t squares = ((1u << above) - 1) & ~((2u << below) - 1) & ~(1u << at);
+    return Run{squares, (1u << above) | (1u << below)};
+}
+
+}  // namespace
+
+std::uint64_t RuleBoard::PieceKey(int piece, int cell) { return Keys().Piece[piece][cell]; }
+std::uint64_t RuleBoard::SideKey() { return Keys().Side; }
+
+RuleBoard::RuleBoard(const Position& g, int side, const Rules& rules)
+    : rules_(rules), width_(g.BoardWidth), height_(g.BoardHeight), centre_(CellOf(g.CentreCol, g.CentreRow)),
+      side_(side) {
+    cells_.fill(CellWall);
+    rowTaken_.fill(0xffff);
+    colTaken_.fill(0xffff);
+    for (int col = 1; col <= width_; ++col)
+        for (int row = 1; row <= height_; ++row) {
+            const int cell = CellOf(col, row);
+            const int code = g.Board(col, row);
+            const bool king = col == g.KingCol && row == g.KingRow && code == DefenderCode;
+            std::int8_t piece = CellEmpty;
+            if (IsCorner(g, col, row)) piece = king ? CellKing : CellCorner;
+            else if (king) piece = CellKing;
+            else if (code == DefenderCode) piece = CellDefender;
+            else if (code == AttackerCode) piece = CellAttacker;
+            cells_[cell] = piece;
+            if (piece == CellEmpty) {
+                rowTaken_[row] &= static_cast<std::uint16_t>(~(1u << col));
+                colTaken_[col] &= static_cast<std::uint16_t>(~(1u << row));
+            }
+            const bool stop = !IsCorner(g, col, row) && (cell != centre_ || !rules_.CentreForKingOnly);
+            if (stop) {
+                rowStops_[row] |= static_cast<std::uint16_t>(1u << col);
+                colStops_[col] |= static_cast<std::uint16_t>(1u << row);
+            }
+            if (piece == CellCorner) {
+                rowCorners_[row] |= static_cast<std::uint16_t>(1u << col);
+                colCorners_[col] |= static_cast<std::uint16_t>(1u << row);
+            }
+            if (piece == CellKing) king_ = cell;
+            if (piece == CellAttacker || piece == CellDefender) {
+                const int list = ListOf(piece);
+                slot_[cell] = static_cast<std::uint8_t>(pieceCount_[list]);
+                pieces_[list][pieceCount_[list]++] = static_cast<std::uint8_t>(cell);
+            }
+            if (IsPiece(piece)) key_ ^= PieceKey(piece, cell);
+        }
+    if (king_ >= 0 && IsCorner(g, ColOf(king_), RowOf(king_))) state_ = GameState::KingHome;
+    if (side_ == AttackerCode) key_ ^= SideKey();
+}
+
+// A cell changes what it holds; the taken bits of its row and column follow.
+void RuleBoard::Place(int cell, int piece) {
+    cells_[cell] = static_cast<std::int8_t>(piece);
+    rowTaken_[RowOf(cell)] |= static_cast<std::uint16_t>(1u << ColOf(cell));
+    colTaken_[ColOf(cell)] |= static_cast<std::uint16_t>(1u << RowOf(cell));
+}
+
+void RuleBoard::Clear(int cell) {
+    cells_[cell] = CellEmpty;
+    rowTaken_[RowOf(cell)] &= static_cast<std::uint16_t>(~(1u << ColOf(cell)));
+    colTaken_[ColOf(cell)] &= static_cast<std::uint16_t>(~(1u << RowOf(cell)));
+}
+
+bool RuleBoard::Mine(int piece) const {
+    return side_ == AttackerCode ? piece == CellAttacker : piece == CellDefender || piece == CellKing;
+}
+
+int RuleBoard::Generate(BoardMove* out) const {
+    int n = 0;
+    auto slide = [&](int from, bool king) {
+        for (int step : CellSteps) {
+            int to = from + step;
+            for (; cells_[to] == CellEmpty; to += step)
+                if (to != centre_ || king || !rules_.CentreForKingOnly)
+                    out[n++] = BoardMove{static_cast<std::uint8_t>(from), static_cast<std::uint8_t>(to)};
+            if (king && cells_[to] == CellCorner)
+                out[n++] = BoardMove{static_cast<std::uint8_t>(from), static_cast<std::uint8_t>(to)};
+        }
+    };
+    const int list = side_ == AttackerCode ? 1 : 0;
+    if (list == 0 && king_ >= 0) slide(king_, true);
+    for (int i = 0; i < pieceCount_[list]; ++i) slide(pieces_[list][i], false);
+    return n;
+}
+
+// The moves of the piece on the cell, counted from the taken bits of its row
+// and column.
+int RuleBoard::CountFrom(int cell, bool king) const {
+    const int col = ColOf(cell), row = RowOf(cell);
+    const Run along = RunAround(rowTaken_[row], col), across = RunAround(colTaken_[col], row);
+    if (!king) return std::popcount(along.Squares & rowStops_[row]) + std::popcount(across.Squares & colStops_[col]);
+    return std::popcount(along.Squares | (along.Ends & rowCorners_[row])) +
+           std::popcount(across.Squares | (across.Ends & colCorners_[col]));
+}
+
+int RuleBoard::CountMoves() const {
+    const int list = side_ == AttackerCode ? 1 : 0;
+    int n = list == 0 && king_ >= 0 ? CountFrom(king_, true) : 0;
+    for (int i = 0; i < pieceCount_[list]; ++i) n += CountFrom(pieces_[list][i], false);
+    return n;
+}
+
+int RuleBoard::GenerateOnto(const std::uint8_t* targets, int count, BoardMove* out) const {
+    int n = 0;
+    for (int t = 0; t < count; ++t) {
+        const int to = targets[t];
+        const bool corner = cells_[to] == CellCorner;
+        if (cells_[to] != CellEmpty && !corner) continue;
+        const bool kingOnly = corner || (to == centre_ && rules_.CentreForKingOnly);
+        for (int step : CellSteps) {
+            int from = to + step;
+            while (cells_[from] == CellEmpty) from += step;
+            const int piece = cells_[from];
+            if (!Mine(piece) || (kingOnly && piece != CellKing)) continue;
+            out[n++] = BoardMove{static_cast<std::uint8_t>(from), static_cast<std::uint8_t>(to)};
+        }
+    }
+    return n;
+}
+
+int RuleBoard::GenerateTactical(BoardMove* out) const {
+    std::uint8_t targets[CellCount];
+    std::bitset<CellCount> listed;
+    int count = 0;
+    auto add = [&](int cell) {
+        if (cells_[cell] != CellEmpty || listed[cell]) return;
+        listed[cell] = true;
+        targets[count++] = static_cast<std::uint8_t>(cell);
+    };
+    const int mover = side_ == AttackerCode ? CellAttacker : CellDefender;
+    const int enemies = side_ == AttackerCode ? 0 : 1;
+    for (int i = 0; i < pieceCount_[enemies]; ++i) {
+        const int enemy = pieces_[enemies][i];
+        for (int step : CellSteps)
+            if (Hostile(enemy - step, mover)) add(enemy + step);
+    }
+    if (king_ >= 0 && side_ == AttackerCode)
+        for (int step : CellSteps) add(king_ + step);
+    int n = GenerateOnto(targets, count, out);
+    if (king_ < 0 || side_ != DefenderCode) return n;
+    // The King's moves onto the squares listed already are there.
+    for (int step : CellSteps)
+        for (int to = king_ + step; cells_[to] == CellEmpty || cells_[to] == CellCorner; to += step) {
+            if (!listed[to]) out[n++] = BoardMove{static_cast<std::uint8_t>(king_), static_cast<std::uint8_t>(to)};
+            if (cells_[to] == CellCorner) break;
+        }
+    return n;
+}
+
+// True when the cell closes a sandwich for a piece of the mover's side: one
+// of the mover's own pieces (the armed King among the defenders) or a
+// hostile corner.
+bool RuleBoard::Hostile(int cell, int mover) const {
+    const int piece = cells_[cell];
+    if (piece == CellCorner) return rules_.CornersHostile;
+    if (mover == CellAttacker) return piece == CellAttacker;
+    return piece == CellDefender || (piece == CellKing && rules_.KingArmed);
+}
+
+// True when the victim's cell holds an enemy of the mover (the King among
+// the defenders) and the far cell closes the sandwich.
+bool RuleBoard::Sandwiched(int victim, int far, int mover, int enemy) const {
+    return (cells_[victim] == enemy || (victim == king_ && mover == CellAttacker)) && Hostile(far, mover);
+}
+
+bool RuleBoard::Captures(BoardMove m) const {
+    const int piece = cells_[m.From];
+    if (piece == CellKing && !rules_.KingArmed) return false;
+    const int mover = piece == CellAttacker ? CellAttacker : CellDefender;
+    const int enemy = mover == CellAttacker ? CellDefender : CellAttacker;
+    for (int step : CellSteps) {
+        const int victim = m.To + step, far = victim + step;
+        if (cells_[victim] == enemy && far != m.From && Hostile(far, mover)) return true;
+    }
+    return false;
+}
+
+int RuleBoard::TakenBy(int cell, std::uint8_t* taken) const {
+    const int piece = cells_[cell];
+    if (!IsPiece(piece) || (piece == CellKing && !rules_.KingArmed)) return 0;
+    const int mover = piece == CellAttacker ? CellAttacker : CellDefender;
+    const int enemy = mover == CellAttacker ? CellDefender : CellAttacker;
+    int n = 0;
+    for (int step : CellSteps) {
+        const int victim = cell + step;
+        if (!Sandwiched(victim, victim + step, mover, enemy)) continue;
+        if (victim == king_) {
+            if (rules_.SandwichedKingEndsCaptures) return n;
+            continue;
+        }
+        taken[n++] = static_cast<std::uint8_t>(victim);
+    }
+    return n;
+}
+
+void RuleBoard::RemovePiece(int list, int cell, MoveUndo& undo) {
+    const int slot = slot_[cell];
+    const int last = pieces_[list][--pieceCount_[list]];
+    pieces_[list][slot] = static_cast<std::uint8_t>(last);
+    slot_[last] = static_cast<std::uint8_t>(slot);
+    undo.Taken[undo.Count] = static_cast<std::uint8_t>(cell);
+    undo.Slots[undo.Count++] = static_cast<std::uint8_t>(slot);
+}
+
+// Takes what the piece that has just moved to `at` sandwiches.
+void RuleBoard::Capture(int at, MoveUndo& undo) {
+    std::uint8_t taken[MoveUndo::MaxTaken];
+    const int n = TakenBy(at, taken);
+    if (n == 0) return;
+    const int enemy = cells_[at] == CellAttacker ? CellDefender : CellAttacker;
+    undo.TakenPiece = static_cast<std::int8_t>(enemy);
+    for (int i = 0; i < n; ++i) {
+        RemovePiece(ListOf(enemy), taken[i], undo);
+        Clear(taken[i]);
+        key_ ^= PieceKey(enemy, taken[i]);
+    }
+}
+
+void RuleBoard::Make(BoardMove m, MoveUndo& undo) {
+    undo.Count = 0;
+    undo.State = state_;
+    undo.Key = key_;
+    const int piece = cells_[m.From];
+    key_ ^= PieceKey(piece, m.From) ^ PieceKey(piece, m.To) ^ SideKey();
+    Clear(m.From);
+    side_ ^= 1;
+    if (piece == CellKing) {
+        const bool home = cells_[m.To] == CellCorner;
+        Place(m.To, CellKing);
+        king_ = m.To;
+        if (home) {
+            state_ = GameState::KingHome;
+            return;
+        }
+    } else {
+        Place(m.To, piece);
+        const int list = ListOf(piece);
+        pieces_[list][slot_[m.From]] = m.To;
+        slot_[m.To] = slot_[m.From];
+        if (piece == CellAttacker && KingSurrounded()) {
+            state_ = GameState::KingTaken;
+            if (rules_.KingCaptureIsWholeMove) return;
+        }
+    }
+    Capture(m.To, undo);
+}
+
+void RuleBoard::Unmake(BoardMove m, const MoveUndo& undo) {
+    for (int i = undo.Count - 1; i >= 0; --i) {
+        const int victim = undo.Taken[i], slot = undo.Slots[i];
+        const int list = ListOf(undo.TakenPiece);
+        const int moved = pieces_[list][slot];
+        pieces_[list][pieceCount_[list]] = static_cast<std::uint8_t>(moved);
+        slot_[moved] = static_cast<std::uint8_t>(pieceCount_[list]++);
+        pieces_[list][slot] = static_cast<std::uint8_t>(victim);
+        slot_[victim] = static_cast<std::uint8_t>(slot);
+        Place(victim, undo.TakenPiece);
+    }
+    const int piece = cells_[m.To];
+    Place(m.From, piece);
+    if (piece == CellKing) {
+        king_ = m.From;
+        if (state_ == GameState::KingHome && undo.State != GameState::KingHome) Place(m.To, CellCorner);
+        else Clear(m.To);
+    } else {
+        Clear(m.To);
+        pieces_[ListOf(piece)][slot_[m.To]] = m.From;
+        slot_[m.From] = slot_[m.To];
+    }
+    side_ ^= 1;
+    state_ = undo.State;
+    key_ = undo.Key;
+}
+
+int RuleBoard::KingRoutes(std::array<bool, CellCount>* lines) const {
+    if (king_ < 0) return 0;
+    int routes = 0;
+    for (int step : CellSteps) {
+        int to = king_ + step;
+        while (cells_[to] == CellEmpty) to += step;
+        if (cells_[to] != CellCorner) continue;
+        ++routes;
+        if (lines)
+            for (int c = king_ + step; c != to; c += step) (*lines)[c] = true;
+    }
+    return routes;
+}
+
+bool RuleBoard::KingMoveHome(BoardMove& move) const {
+    if (king_ < 0) return false;
+    for (int step : CellSteps) {
+        int to = king_ + step;
+        while (cells_[to] == CellEmpty) to += step;
+        if (cells_[to] != CellCorner) continue;
+        move = BoardMove{static_cast<std::uint8_t>(king_), static_cast<std::uint8_t>(to)};
+        return true;
+    }
+    return false;
+}
+
+bool RuleBoard::KingSurrounded() const {
+    if (king_ < 0) return false;
+    int closed = 0, edges = 0;
+    for (int step : CellSteps) {
+        const int cell = cells_[king_ + step];
+        if (cell == CellAttacker || (cell == CellCorner && rules_.CornersHostile)) ++closed;
+        else if (cell == CellWall) ++edges;
+    }
+    return closed == 4 || (rules_.KingTakenAgainstEdge && edges == 1 && closed == 3);
+}
+
+std::uint64_t RuleBoard::Perft(int depth) {
+    if (depth <= 0) return depth == 0 ? 1 : 0;
+    if (state_ != GameState::GoesOn) return 0;
+    if (depth == 1) return static_cast<std::uint64_t>(CountMoves());
+    BoardMove moves[MaxMoves];
+    const int n = Generate(moves);
+    std::uint64_t total = 0;
+    for (int i = 0; i < n; ++i) {
+        MoveUndo undo;
+        Make(moves[i], undo);
+        total += Perft(depth - 1);
+        Unmake(moves[i], undo);
+    }
+    return total;
+}
+
+MoveCheck RuleBoard::Check(const Move& m) const {
+    const auto onBoard = [this](Square s) { return s.Col >= 1 && s.Col <= width_ && s.Row >= 1 && s.Row <= height_; };
+    if (!onBoard(m.From) || !onBoard(m.To)) return {Refusal::OffTheBoard, {}};
+    if (state_ != GameState::GoesOn) return {Refusal::GameOver, {}};
+    const int from = CellOf(m.From), to = CellOf(m.To), piece = cells_[from];
+    if (!Mine(piece)) return {Refusal::NotYourPiece, m.From};
+    if (from == to || (m.From.Col != m.To.Col && m.From.Row != m.To.Row)) return {Refusal::NotStraight, {}};
+    const int step = m.From.Col == m.To.Col ? (to > from ? CellStride : -CellStride) : (to > from ? 1 : -1);
+    for (int c = from + step; c != to; c += step)
+        if (cells_[c] != CellEmpty) return {Refusal::PassesOver, {ColOf(c), RowOf(c)}};
+    if (cells_[to] == CellCorner) return {piece == CellKing ? Refusal::None : Refusal::CornerForKing, m.To};
+    if (cells_[to] != CellEmpty) return {Refusal::TargetTaken, m.To};
+    if (to == centre_ && rules_.CentreForKingOnly && piece != CellKing) return {Refusal::CentreForKing, m.To};
+    return {};
+}
+
+void RuleBoard::WriteTo(Position& g) const {
+    for (int col = 1; col <= width_; ++col)
+        for (int row = 1; row <= height_; ++row) {
+            const int cell = cells_[CellOf(col, row)];
+            g.Board(col, row) = cell == CellAttacker                       ? AttackerCode
+                                : cell == CellDefender || cell == CellKing ? DefenderCode
+                                : cell == CellCorner                       ? HomeCode
+                                                                           : EmptyCode;
+        }
+    if (king_ < 0) return;
+    g.KingCol = ColOf(king_);
+    g.KingRow = RowOf(king_);
+}
+
+bool IsLegalMove(const Position& g, int side, const Move& m, const Rules& rules) {
+    return RuleBoard(g, side, rules).Allows(m);
+}
+
+}  // namespace jv
