@@ -2,6 +2,7 @@
 
 #include "ai/SquareLists.h"
 #include "core/Board.h"
+#include "core/Directions.h"
 #include "core/Reach.h"
 
 namespace jv {
@@ -11,16 +12,13 @@ namespace {
 // Appends the free squares of one edge scan to route; when a square on the
 // way is taken, route is left as it was (the scan's text is empty).
 void AppendKingRoute(const Game& g, int a, int b, char direction, std::string& route) {
-    int dc = 0, dr = 0, last = 0;
-    int* along = nullptr;
+    const Direction* d = DirectionOf(direction);
+    if (!d) return;
+    const int dc = d->Col, dr = d->Row;
     int i = a, j = b;
-    switch (direction) {
-        case 'R': case 'r': dr = 1; along = &j; last = g.BoardHeight - 1; break;
-        case 'L': case 'l': dr = -1; along = &j; last = 2; break;
-        case 'D': case 'd': dc = 1; along = &i; last = g.BoardWidth - 1; break;
-        case 'U': case 'u': dc = -1; along = &i; last = 2; break;
-        default: return;
-    }
+    int* along = dc != 0 ? &i : &j;
+    // The scan stops short of the corner square at the edge's far end.
+    const int last = dc + dr < 0 ? 2 : dc != 0 ? g.BoardWidth - 1 : g.BoardHeight - 1;
     const std::size_t start = route.size();
     const int step = dc + dr;
     for (i += dc, j += dr; step > 0 ? *along <= last : *along >= last; i += dc, j += dr) {
@@ -36,13 +34,8 @@ void AppendKingRoute(const Game& g, int a, int b, char direction, std::string& r
 // The farthest square of the King's slide in one direction, or false when
 // he cannot move that way.
 bool FarthestReach(const Game& g, char direction, int& col, int& row) {
-    int dc = 0, dr = 0;
-    switch (direction) {
-        case 'L': dr = -1; break;
-        case 'R': dr = 1; break;
-        case 'U': dc = -1; break;
-        default: dc = 1; break;
-    }
+    const Direction* d = DirectionOf(direction);
+    const int dc = d ? d->Col : 1, dr = d ? d->Row : 0;
     int c = g.KingCol, r = g.KingRow;
     bool moved = false;
     while (c + dc >= 1 && c + dc <= g.BoardWidth && r + dr >= 1 && r + dr <= g.BoardHeight &&

@@ -1,6 +1,7 @@
 #include "core/Reach.h"
 
 #include "core/Board.h"
+#include "core/Directions.h"
 
 namespace jv {
 
@@ -13,13 +14,11 @@ struct Step {
 // The step of a direction letter and how many squares lie ahead of (col, row)
 // before the board's edge; false for a letter that is no direction.
 bool DirectionStep(const Game& g, int col, int row, char direction, Step& step, int& squares) {
-    switch (direction) {
-        case 'U': case 'u': step = {-1, 0}; squares = col - 1; return true;
-        case 'D': case 'd': step = {1, 0}; squares = g.BoardWidth - col; return true;
-        case 'L': case 'l': step = {0, -1}; squares = row - 1; return true;
-        case 'R': case 'r': step = {0, 1}; squares = g.BoardHeight - row; return true;
-        default: return false;
-    }
+    const Direction* d = DirectionOf(direction);
+    if (!d) return false;
+    step = {d->Col, d->Row};
+    squares = d->Col < 0 ? col - 1 : d->Col > 0 ? g.BoardWidth - col : d->Row < 0 ? row - 1 : g.BoardHeight - row;
+    return true;
 }
 
 // Calls visit(c, r) for each empty square from (col, row) in one direction,
