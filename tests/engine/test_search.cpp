@@ -67,67 +67,6 @@ std::string MoveName(const Move& m) {
 
 }  // namespace
 
-TEST(Search, OwnMoveCounterAgreesWithPerft) {
-    // Every shipped layout from either side, as loaded (to depth 4 with the defenders first) and
-    // after rounds of ten random moves a side: the search's own make and unmake count the same move
-    // sequences as the game's counter.
-    struct Row {
-        const char* layout;
-        int depths[2];      // the deepest count with the defenders first, with the attackers first
-        int randomRounds;   // RedGreenRandom calls before counting
-    };
-    const Row table[] = {
-        {"patf.txt", {4, 3}, 0},     {"pattern1.txt", {4, 4}, 0}, {"pattern2.txt", {4, 3}, 0},
-        {"pattern3.txt", {4, 3}, 0}, {"pattern4.txt", {4, 3}, 0}, {"pattern5.txt", {4, 3}, 0},
-        {"patf.txt", {3, 3}, 1},     {"pattern1.txt", {4, 4}, 2}, {"pattern3.txt", {3, 3}, 2},
-        {"pattern4.txt", {3, 3}, 3},
-    };
-    for (const Row& row : table) {
-        TestGame t;
-        ReadLayout(t, row.layout);
-        t.g.Random.Timer = TickingClock(7);
-        for (int round = 0; round < row.randomRounds; ++round) RedGreenRandom(t.g);
-        for (int side : {DefenderCode, AttackerCode}) {
-            RuleBoard board(t.g, side);
-            for (int depth = 1; depth <= row.depths[side]; ++depth)
-                EXPECT_EQ(board.Perft(depth), Perft(t.g, depth, side))
-                    << row.layout << " after " << row.randomRounds << " random rounds, " << SideName(side)
-                    << " first, depth " << depth;
-        }
-    }
-}
-
-TEST(Search, KeysFollowEveryMoveAsAFreshCopyComputesThem) {
-    // A crowded position where moves capture for both sides and the King can be taken: after each
-    // move the kept key is the key of the position the game's own move procedures reach, and after
-    // taking the move back the key and the move counts are those of the start.
-    TestGame t;
-    PlacePieces(t.g, {".ad.a..", "a.da.d.", "dK.a..a", ".a.d.d.", "..a.a..", ".d...da", "..a...."});
-    t.g.Check1 = false;   // the computer does not answer the user's drops
-    for (int side : {DefenderCode, AttackerCode}) {
-        RuleBoard board(t.g, side);
-        const std::uint64_t key = board.Key(), count = board.Perft(3);
-        BoardMove moves[MaxMoves];
-        const int n = board.Generate(moves);
-        for (int i = 0; i < n; ++i) {
-            const BoardMove m = moves[i];
-            Game next = t.g;
-            if (side == DefenderCode) {
-                ASSERT_TRUE(BeginDrag(next, ColOf(m.From), RowOf(m.From)));
-                ASSERT_TRUE(EndDrag(next, ColOf(m.To), RowOf(m.To)));
-            } else {
-                MakeAttackerMove(next, {{ColOf(m.From), RowOf(m.From)}, {ColOf(m.To), RowOf(m.To)}});
-            }
-            MoveUndo undo;
-            board.Make(m, undo);
-            EXPECT_EQ(board.Key(), RuleBoard(next, 1 - side).Key()) << SideName(side) << " move " << i;
-            board.Unmake(m, undo);
-        }
-        EXPECT_EQ(board.Key(), key) << SideName(side);
-        EXPECT_EQ(board.Perft(3), count) << SideName(side);
-    }
-}
-
 TEST(Search, FindsTheForcedMoveAtTheDepthItNeeds) {
     for (const Forced& f : ForcedPositions) {
         TestGame t;

@@ -1,0 +1,113 @@
+// The rule board: the one place where a move, what it takes and how the game stands after it are decided.
+#include <gtest/gtest.h>
+
+#include <set>
+#include <utility>
+
+#include "core/RuleBoard.h"
+#include "records/LayoutFile.h"
+#include "session/ComputerMoves.h"
+#include "session/PlayerMoves.h"
+#include "session/Pointer.h"
+#include "support/Fixtures.h"
+#include "support/LayoutText.h"
+
+using namespace jv;
+using jv::test::TestGame;
+
+namespace {
+
+const char* SideName(int side) { return side == AttackerCode ? "attackers" : "defenders"; }
+
+std::string MoveName(const Move& m) {
+    return std::to_string(m.From.Col) + "," + std::to_string(m.From.Row) + ">" + std::to_string(m.To.Col) + "," +
+           std::to_string(m.To.Row);
+}
+
+}  // namespace
+
+TEST(RuleBoard, AllowsExactlyTheMovesItListsAndCounts) {
+    // Every shipped layout, as loaded and after rounds of random moves, for either side: a move between
+    // any two squares is allowed exactly when the board lists it, and its count of moves is that list's length.
+    const struct { const char* layout; int rounds; } rows[] = {
+        {"patf.txt", 0}, {"pattern1.txt", 0}, {"pattern2.txt", 0}, {"pattern3.txt", 0}, {"pattern4.txt", 0},
+        {"pattern5.txt", 0}, {"patf.txt", 3}, {"pattern1.txt", 2}, {"pattern3.txt", 4}, {"pattern4.txt", 3},
+    };
+    for (const auto& r : rows) {
+        TestGame t;
+        ASSERT_TRUE(ReadLayoutFile(t.g, jv::test::DataPath(r.layout)).Ok());
+        t.g.Random.Timer = TickingClock(7);
+        for (int round = 0; round < r.rounds; ++round) RedGreenRandom(t.g);
+        for (int side : {DefenderCode, AttackerCode}) {
+            const RuleBoard board(t.g, side);
+            BoardMove moves[MaxMoves];
+            const int n = board.Generate(moves);
+            EXPECT_EQ(board.CountMoves(), n) << r.layout << " " << SideName(side);
+            std::set<std::pair<int, int>> listed;
+            for (int i = 0; i < n; ++i) listed.insert({moves[i].From, moves[i].To});
+            for (int from = 0; from < CellCount; ++from)
+                for (int to = 0; to < CellCount; ++to) {
+                    const Move m{{ColOf(from), RowOf(from)}, {ColOf(to), RowOf(to)}};
+                    if (m.From.Col < 1 || m.From.Col > t.g.BoardWidth || m.From.Row < 1 || m.From.Row > t.g.BoardHeight ||
+                        m.To.Col < 1 || m.To.Col > t.g.BoardWidth || m.To.Row < 1 || m.To.Row > t.g.BoardHeight)
+                        continue;
+                    ASSERT_EQ(board.Allows(m), listed.count({from, to}) == 1)
+                        << r.layout << " " << SideName(side) << " " << MoveName(m);
+                }
+        }
+    }
+}
+
+TEST(RuleBoard, RefusesAMoveWithItsReason) {
+    // A piece runs along a row or a column over empty squares; only the King stops on the centre or enters a
+    // corner, and every piece may pass the empty centre.
+    const auto board = jv::test::LayoutText({"H.....H", "...a...", ".......", "a.....d", ".......", "...K...", "H.....H"});
+    const struct { const char* rule; int side; Move move; Refusal why; } rows[] = {
+        {"an attacker passes the empty centre", AttackerCode, {{2, 4}, {5, 4}}, Refusal::None},
+        {"an attacker stops on it", AttackerCode, {{4, 1}, {4, 4}}, Refusal::CentreForKing},
+        {"a defender passes it", DefenderCode, {{4, 7}, {4, 2}}, Refusal::None},
+        {"a defender stops on it", DefenderCode, {{4, 7}, {4, 4}}, Refusal::CentreForKing},
+        {"the King stops on it", DefenderCode, {{6, 4}, {4, 4}}, Refusal::None},
+        {"a piece passes over another", AttackerCode, {{2, 4}, {7, 4}}, Refusal::PassesOver},
+        {"an attacker runs into a corner", AttackerCode, {{4, 1}, {1, 1}}, Refusal::CornerForKing},
+        {"a move onto a piece", AttackerCode, {{4, 1}, {4, 7}}, Refusal::TargetTaken},
+        {"a move of the other side's piece", AttackerCode, {{4, 7}, {4, 5}}, Refusal::NotYourPiece},
+        {"a move along no line", AttackerCode, {{2, 4}, {3, 5}}, Refusal::NotStraight},
+    };
+    for (const auto& r : rows) {
+        TestGame t;
+        ASSERT_TRUE(ApplyLayoutLine(t.g, board).Ok());
+        EXPECT_EQ(static_cast<int>(RuleBoard(t.g, r.side).Check(r.move).Why), static_cast<int>(r.why)) << r.rule;
+    }
+}
+
+TEST(RuleBoard, KeysFollowEveryMoveAsAFreshBoardComputesThem) {
+    // A crowded position where moves capture for both sides and the King can be taken: after each
+    // move the kept key is the key of the position the game's own move procedures reach, and after
+    // taking the move back the key and the move counts are those of the start.
+    TestGame t;
+    ASSERT_TRUE(ApplyLayoutLine(t.g, jv::test::LayoutText({".ad.a..", "a.da.d.", "dK.a..a", ".a.d.d.", "..a.a..", ".d...da", "..a...."})).Ok());
+    t.g.Check1 = false;   // the computer does not answer the user's drops
+    for (int side : {DefenderCode, AttackerCode}) {
+        RuleBoard board(t.g, side);
+        const std::uint64_t key = board.Key(), count = board.Perft(3);
+        BoardMove moves[MaxMoves];
+        const int n = board.Generate(moves);
+        for (int i = 0; i < n; ++i) {
+            const BoardMove m = moves[i];
+            Game next = t.g;
+            if (side == DefenderCode) {
+                ASSERT_TRUE(BeginDrag(next, ColOf(m.From), RowOf(m.From)));
+                ASSERT_TRUE(EndDrag(next, ColOf(m.To), RowOf(m.To)));
+            } else {
+                MakeAttackerMove(next, {{ColOf(m.From), RowOf(m.From)}, {ColOf(m.To), RowOf(m.To)}});
+            }
+            MoveUndo undo;
+            board.Make(m, undo);
+            EXPECT_EQ(board.Key(), RuleBoard(next, 1 - side).Key()) << SideName(side) << " move " << i;
+            board.Unmake(m, undo);
+        }
+        EXPECT_EQ(board.Key(), key) << SideName(side);
+        EXPECT_EQ(board.Perft(3), count) << SideName(side);
+    }
+}
