@@ -39,18 +39,21 @@ int ListOf(int piece) { return piece == CellAttacker ? 1 : 0; }
 
 bool IsPiece(int cell) { return cell == CellAttacker || cell == CellDefender || cell == CellKing; }
 
-// The empty squares on both sides of bit `at` of a line's taken bits, as a
-// mask, and the bits of the two pieces, walls or corners that end them.
+// The empty squares on both sides of bit `at` of a line's taken bits: the
+// bits of the two pieces, walls or corners that end them. Bit 0 and the bit
+// past the board are walls, so both searches find a bit.
 struct Run {
-    std::uint32_t Squares, Ends;
+    int Above, Below;
+    int Squares() const { return Above - Below - 2; }
+    // True when one of the bits lies in the run.
+    bool Holds(std::uint32_t bits, int at) const {
+        return (bits & ((1u << Above) - (2u << Below)) & ~(1u << at)) != 0;
+    }
+    int EndsOn(std::uint32_t bits) const { return static_cast<int>(((bits >> Above) & 1) + ((bits >> Below) & 1)); }
 };
 
 Run RunAround(std::uint32_t taken, int at) {
-    // Bit 0 and the bit past the board are walls, so both searches find a bit.
-    const int above = std::countr_zero(taken >> (at + 1)) + at + 1;
-    const int below = std::bit_width(taken & ((1u << at) - 1)) - 1;
-    const std::uint32_t squares = ((1u << above) - 1) & ~((2u << below) - 1) & ~(1u << at);
-    return Run{squares, (1u << above) | (1u << below)};
+    return Run{std::countr_zero(taken >> (at + 1)) + at + 1, std::bit_width(taken & ((1u << at) - 1)) - 1};
 }
 
 }  // namespace
@@ -79,10 +82,9 @@ RuleBoard::RuleBoard(const Position& g, int side, const Rules& rules)
                 rowTaken_[row] &= static_cast<std::uint16_t>(~(1u << col));
                 colTaken_[col] &= static_cast<std::uint16_t>(~(1u << row));
             }
-            const bool stop = !IsCorner(g, col, row) && (cell != centre_ || !rules_.CentreForKingOnly);
-            if (stop) {
-                rowStops_[row] |= static_cast<std::uint16_t>(1u << col);
-                colStops_[col] |= static_cast<std::uint16_t>(1u << row);
+            if (cell == centre_ && rules_.CentreForKingOnly) {
+                rowKingOnly_[row] |= static_cast<std::uint16_t>(1u << col);
+                colKingOnly_[col] |= static_cast<std::uint16_t>(1u << row);
             }
             if (piece == CellCorner) {
                 rowCorners_[row] |= static_cast<std::uint16_t>(1u << col);
@@ -140,9 +142,9 @@ int RuleBoard::Generate(BoardMove* out) const {
 int RuleBoard::CountFrom(int cell, bool king) const {
     const int col = ColOf(cell), row = RowOf(cell);
     const Run along = RunAround(rowTaken_[row], col), across = RunAround(colTaken_[col], row);
-    if (!king) return std::popcount(along.Squares & rowStops_[row]) + std::popcount(across.Squares & colStops_[col]);
-    return std::popcount(along.Squares | (along.Ends & rowCorners_[row])) +
-           std::popcount(across.Squares | (across.Ends & colCorners_[col]));
+    const int squares = along.Squares() + across.Squares();
+    if (king) return squares + along.EndsOn(rowCorners_[row]) + across.EndsOn(colCorners_[col]);
+    return squares - along.Holds(rowKingOnly_[row], col) - across.Holds(colKingOnly_[col], row);
 }
 
 int RuleBoard::CountMoves() const {

@@ -165,10 +165,10 @@ private:
     std::array<std::array<std::uint8_t, MaxBoardSide * MaxBoardSide>, 2> pieces_{};   // 0 defenders, 1 attackers
     std::array<int, 2> pieceCount_{};
     // The taken cells of each row (bit col) and each column (bit row), walls
-    // and corners included, and the squares a piece other than the King may
-    // stop on, for counting moves without walking them.
+    // and corners included, the squares where only the King may stop, and the
+    // empty corners, for counting moves without walking them.
     std::array<std::uint16_t, CellStride> rowTaken_{}, colTaken_{};
-    std::array<std::uint16_t, CellStride> rowStops_{}, colStops_{};
+    std::array<std::uint16_t, CellStride> rowKingOnly_{}, colKingOnly_{};
     std::array<std::uint16_t, CellStride> rowCorners_{}, colCorners_{};
     int width_ = 0, height_ = 0, centre_ = 0, king_ = -1, side_ = 0;
     GameState state_ = GameState::GoesOn;
