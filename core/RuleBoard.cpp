@@ -67,6 +67,12 @@ RuleBoard::RuleBoard(const Position& g, int side, const Rules& rules)
     cells_.fill(CellWall);
     rowTaken_.fill(0xffff);
     colTaken_.fill(0xffff);
+    // A mover's own pieces close a sandwich, the King among the defenders
+    // when he is armed, and the corners when they are hostile.
+    hostile_[1][CellAttacker] = true;
+    hostile_[0][CellDefender] = true;
+    hostile_[0][CellKing] = rules_.KingArmed;
+    hostile_[0][CellCorner] = hostile_[1][CellCorner] = rules_.CornersHostile;
     for (int col = 1; col <= width_; ++col)
         for (int row = 1; row <= height_; ++row) {
             const int cell = CellOf(col, row);
@@ -79,16 +85,16 @@ RuleBoard::RuleBoard(const Position& g, int side, const Rules& rules)
             else if (code == AttackerCode) piece = CellAttacker;
             cells_[cell] = piece;
             if (piece == CellEmpty) {
-                rowTaken_[row] &= static_cast<std::uint16_t>(~(1u << col));
-                colTaken_[col] &= static_cast<std::uint16_t>(~(1u << row));
+                rowTaken_[row] &= ~(1u << col);
+                colTaken_[col] &= ~(1u << row);
             }
             if (cell == centre_ && rules_.CentreForKingOnly) {
-                rowKingOnly_[row] |= static_cast<std::uint16_t>(1u << col);
-                colKingOnly_[col] |= static_cast<std::uint16_t>(1u << row);
+                rowKingOnly_[row] |= 1u << col;
+                colKingOnly_[col] |= 1u << row;
             }
             if (piece == CellCorner) {
-                rowCorners_[row] |= static_cast<std::uint16_t>(1u << col);
-                colCorners_[col] |= static_cast<std::uint16_t>(1u << row);
+                rowCorners_[row] |= 1u << col;
+                colCorners_[col] |= 1u << row;
             }
             if (piece == CellKing) king_ = cell;
             if (piece == CellAttacker || piece == CellDefender) {
@@ -105,14 +111,14 @@ RuleBoard::RuleBoard(const Position& g, int side, const Rules& rules)
 // A cell changes what it holds; the taken bits of its row and column follow.
 void RuleBoard::Place(int cell, int piece) {
     cells_[cell] = static_cast<std::int8_t>(piece);
-    rowTaken_[RowOf(cell)] |= static_cast<std::uint16_t>(1u << ColOf(cell));
-    colTaken_[ColOf(cell)] |= static_cast<std::uint16_t>(1u << RowOf(cell));
+    rowTaken_[RowOf(cell)] |= 1u << ColOf(cell);
+    colTaken_[ColOf(cell)] |= 1u << RowOf(cell);
 }
 
 void RuleBoard::Clear(int cell) {
     cells_[cell] = CellEmpty;
-    rowTaken_[RowOf(cell)] &= static_cast<std::uint16_t>(~(1u << ColOf(cell)));
-    colTaken_[ColOf(cell)] &= static_cast<std::uint16_t>(~(1u << RowOf(cell)));
+    rowTaken_[RowOf(cell)] &= ~(1u << ColOf(cell));
+    colTaken_[ColOf(cell)] &= ~(1u << RowOf(cell));
 }
 
 bool RuleBoard::Mine(int piece) const {
@@ -201,16 +207,6 @@ int RuleBoard::GenerateTactical(BoardMove* out) const {
     return n;
 }
 
-// True when the cell closes a sandwich for a piece of the mover's side: one
-// of the mover's own pieces (the armed King among the defenders) or a
-// hostile corner.
-bool RuleBoard::Hostile(int cell, int mover) const {
-    const int piece = cells_[cell];
-    if (piece == CellCorner) return rules_.CornersHostile;
-    if (mover == CellAttacker) return piece == CellAttacker;
-    return piece == CellDefender || (piece == CellKing && rules_.KingArmed);
-}
-
 // True when the victim's cell holds an enemy of the mover (the King among
 // the defenders) and the far cell closes the sandwich.
 bool RuleBoard::Sandwiched(int victim, int far, int mover, int enemy) const {
@@ -229,21 +225,25 @@ bool RuleBoard::Captures(BoardMove m) const {
     return false;
 }
 
-int RuleBoard::TakenBy(int cell, std::uint8_t* taken) const {
+// Calls take(victim) for each piece that the piece on the cell, had it just
+// moved there, takes, in the order it takes them.
+template <typename Take>
+void RuleBoard::ForEachTaken(int cell, Take take) const {
     const int piece = cells_[cell];
-    if (!IsPiece(piece) || (piece == CellKing && !rules_.KingArmed)) return 0;
+    if (!IsPiece(piece) || (piece == CellKing && !rules_.KingArmed)) return;
     const int mover = piece == CellAttacker ? CellAttacker : CellDefender;
     const int enemy = mover == CellAttacker ? CellDefender : CellAttacker;
-    int n = 0;
     for (int step : CellSteps) {
         const int victim = cell + step;
         if (!Sandwiched(victim, victim + step, mover, enemy)) continue;
-        if (victim == king_) {
-            if (rules_.SandwichedKingEndsCaptures) return n;
-            continue;
-        }
-        taken[n++] = static_cast<std::uint8_t>(victim);
+        if (victim != king_) take(victim);
+        else if (rules_.SandwichedKingEndsCaptures) return;
     }
+}
+
+int RuleBoard::TakenBy(int cell, std::uint8_t* taken) const {
+    int n = 0;
+    ForEachTaken(cell, [&](int victim) { taken[n++] = static_cast<std::uint8_t>(victim); });
     return n;
 }
 
@@ -258,16 +258,13 @@ void RuleBoard::RemovePiece(int list, int cell, MoveUndo& undo) {
 
 // Takes what the piece that has just moved to `at` sandwiches.
 void RuleBoard::Capture(int at, MoveUndo& undo) {
-    std::uint8_t taken[MoveUndo::MaxTaken];
-    const int n = TakenBy(at, taken);
-    if (n == 0) return;
     const int enemy = cells_[at] == CellAttacker ? CellDefender : CellAttacker;
     undo.TakenPiece = static_cast<std::int8_t>(enemy);
-    for (int i = 0; i < n; ++i) {
-        RemovePiece(ListOf(enemy), taken[i], undo);
-        Clear(taken[i]);
-        key_ ^= PieceKey(enemy, taken[i]);
-    }
+    ForEachTaken(at, [&](int victim) {
+        RemovePiece(ListOf(enemy), victim, undo);
+        Clear(victim);
+        key_ ^= PieceKey(enemy, victim);
+    });
 }
 
 void RuleBoard::Make(BoardMove m, MoveUndo& undo) {
@@ -328,6 +325,10 @@ void RuleBoard::Unmake(BoardMove m, const MoveUndo& undo) {
 
 int RuleBoard::KingRoutes(std::array<bool, CellCount>* lines) const {
     if (king_ < 0) return 0;
+    const int col = ColOf(king_), row = RowOf(king_);
+    if (!lines)
+        return RunAround(rowTaken_[row], col).EndsOn(rowCorners_[row]) +
+               RunAround(colTaken_[col], row).EndsOn(colCorners_[col]);
     int routes = 0;
     for (int step : CellSteps) {
         int to = king_ + step;

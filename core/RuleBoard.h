@@ -151,8 +151,10 @@ private:
     static std::uint64_t PieceKey(int piece, int cell);
     static std::uint64_t SideKey();
     bool Mine(int piece) const;
-    bool Hostile(int cell, int mover) const;
+    bool Hostile(int cell, int mover) const { return hostile_[mover == CellAttacker][cells_[cell]]; }
     bool Sandwiched(int victim, int far, int mover, int enemy) const;
+    template <typename Take>
+    void ForEachTaken(int cell, Take take) const;
     void Capture(int at, MoveUndo& undo);
     void RemovePiece(int list, int cell, MoveUndo& undo);
     void Place(int cell, int piece);
@@ -167,9 +169,12 @@ private:
     // The taken cells of each row (bit col) and each column (bit row), walls
     // and corners included, the squares where only the King may stop, and the
     // empty corners, for counting moves without walking them.
-    std::array<std::uint16_t, CellStride> rowTaken_{}, colTaken_{};
-    std::array<std::uint16_t, CellStride> rowKingOnly_{}, colKingOnly_{};
-    std::array<std::uint16_t, CellStride> rowCorners_{}, colCorners_{};
+    std::array<std::uint32_t, CellStride> rowTaken_{}, colTaken_{};
+    std::array<std::uint32_t, CellStride> rowKingOnly_{}, colKingOnly_{};
+    std::array<std::uint32_t, CellStride> rowCorners_{}, colCorners_{};
+    // Whether a cell closes a sandwich, by what it holds: [0] for a moving
+    // defender, [1] for a moving attacker.
+    std::array<std::array<bool, CellCorner + 1>, 2> hostile_{};
     int width_ = 0, height_ = 0, centre_ = 0, king_ = -1, side_ = 0;
     GameState state_ = GameState::GoesOn;
     std::uint64_t key_ = 0;
