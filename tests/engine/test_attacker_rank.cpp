@@ -11,10 +11,13 @@
 #include "session/ComputerMoves.h"
 #include "ai/KingRoutes.h"
 #include "core/Analysis.h"
+#include "core/Board.h"
 #include "core/SortedList.h"
 #include "core/VbText.h"
+#include "records/LayoutFile.h"
 #include "session/LayoutCommands.h"
 #include "support/Fixtures.h"
+#include "support/LayoutText.h"
 
 using namespace jv;
 using jv::test::TestGame;
@@ -122,4 +125,36 @@ TEST(GetAttackerRank, GivesWhatThePlainTrialLoopGives) {
         }
     }
     EXPECT_GT(staleStarts, 0);
+}
+
+TEST(GetAttackerRank, NoAttackerIsSentToTheCentre) {
+    // The attacker never moves to the centre, even where it is empty, in his reach and beside the King.
+    using jv::test::LayoutText;
+    const struct { const char* board; std::string layout; int centreCol, centreRow; } rows[] = {
+        {"7 by 7", LayoutText({"...a...", ".......", ".......", "..K..a.", ".......", ".......", "......."}), 4, 4},
+        {"6 by 6", LayoutText({"...a..", "......", "......", "..K..a", "......", "......"}), 4, 4},
+        {"8 by 5", LayoutText({"..a..", ".....", ".....", ".....", ".K..a", ".....", ".....", "....."}), 5, 3},
+    };
+    for (const auto& row : rows) {
+        const std::string centre = SquareText(row.centreCol, row.centreRow);
+        TestGame t;
+        ASSERT_TRUE(ApplyLayoutLine(t.g, row.layout).Ok()) << row.board;
+        int reaching = 0;   // attackers whose reach takes in the centre
+        for (int c = 1; c <= t.g.BoardWidth; ++c)
+            for (int r = 1; r <= t.g.BoardHeight; ++r)
+                reaching += t.g.Board(c, r) == AttackerCode && t.g.MoveTargets(c, r).find(centre + ",") != std::string::npos;
+        ASSERT_EQ(reaching, 2) << row.board;
+        GetAttackerRank(t.g);
+        ASSERT_FALSE(t.g.List1A.empty()) << row.board;
+        for (const std::string& line : t.g.List2A) EXPECT_NE(line.substr(0, 4), centre) << row.board << ": " << line;
+        for (const std::string& line : t.g.List1A) EXPECT_NE(line.substr(17, 4), centre) << row.board << ": " << line;
+
+        TestGame u;
+        ASSERT_TRUE(ApplyLayoutLine(u.g, row.layout).Ok());
+        MakeRedAutoMove(u.g);
+        EXPECT_EQ(u.g.Undo.size(), 1u) << row.board;
+        EXPECT_EQ(u.g.Board(row.centreCol, row.centreRow), EmptyCode) << row.board;
+        for (const std::string& line : u.g.EventLog)
+            EXPECT_EQ(line.find("not legal"), std::string::npos) << row.board << ": " << line;
+    }
 }

@@ -13,6 +13,7 @@
 #include "session/LayoutCommands.h"
 #include "records/PositionRecord.h"
 #include "support/Fixtures.h"
+#include "support/LayoutText.h"
 
 using namespace jv;
 using jv::test::TestGame;
@@ -88,6 +89,33 @@ TEST(AutoMove, WithoutARankedMoveTheDefendersPlayTheSearchedMoveAndSaySo) {
         why.push_back(*said);
     }
     EXPECT_EQ(why[0], why[1]);
+}
+
+TEST(AutoMove, ARankedMoveTheRulesForbidGivesWayToALegalLineOrToTheSearchedMove) {
+    // A ranked move the rules forbid is never made: the first legal line is, else the searched move, made as a drop.
+    using jv::test::LayoutText;
+    const struct { const char* why; std::string layout; const char* log; int kingCol, kingRow; bool home; } rows[] = {
+        {"four lines onto the centre, then the King's to the edge",
+         LayoutText({"...d...", ".......", ".......", "d...ad.", "...d...", "..dKd..", "......."}),
+         "Ranked move A4 > D4 is not legal: taking F4 > G4", 7, 4, false},
+        {"only lines onto the centre, the King beside G1",
+         LayoutText({"...d...", ".......", ".......", "d...ad.", "a......", "K.d....", "......."}),
+         "No legal ranked move: searched F1 > G1", 7, 1, true},
+        {"no line, the King beside G1", LayoutText({".......", ".......", ".......", "d......", "ad.....", "K.d....", "......."}),
+         "No ranked move: searched F1 > G1", 7, 1, true},
+    };
+    for (const auto& r : rows) {   // a defender onto the centre is forbidden; the searched King going Home wins
+        TestGame t;
+        ASSERT_TRUE(LoadPosition(t.g, r.layout).Ok()) << r.why;
+        t.g.Check1 = false;
+        MakeGreenAutoMove(t.g);
+        EXPECT_EQ(std::count(t.g.EventLog.begin(), t.g.EventLog.end(), r.log), 1) << r.why;
+        EXPECT_EQ(t.g.Board(4, 4), EmptyCode) << r.why;
+        EXPECT_EQ(std::pair(t.g.KingCol, t.g.KingRow), std::pair(r.kingCol, r.kingRow)) << r.why;
+        EXPECT_EQ(t.g.GameOver, r.home) << r.why;
+        const Lines home{"King at Home !\r\nClick Reset to start a new game [vbhappy+vbok]"};
+        EXPECT_EQ(t.view.Messages(), r.home ? home : Lines{}) << r.why;
+    }
 }
 
 TEST(RandomMover, PlaysTheSmallestDrawnLineOnTheBoardAsItStands) {

@@ -46,6 +46,8 @@ TEST(Configuration, AReadableFileIsTakenAndAnyOtherReplacedWithTheDefaults) {
          "my|pattern2.txt|player01.ico player11.ico home1.ico king1.ico 1 2 3 4 |0|1|1|0|0", false},
         {"missing files", "  \r\ndeleted.txt\r\nnothere.ico\r\nplayer11.ico\r\nhome1.ico\r\nking1.ico\r\n1 2 3 4\r\n0 1 1 0 0\r\n",
          "xp.col|patf.txt|player00.ico player11.ico home1.ico king1.ico 1 2 3 4 |0|1|1|0|0", false},
+        {"empty numbers", SixLines + "1,,3 4\r\n0 ,, 1 ,0,\"\"\r\n",
+         "wood.col|pattern2.txt|player01.ico player11.ico home1.ico king1.ico 1 0 3 4 |0|0|1|0|0", false},
         {"no file", "", defaults, true},
         {"six lines", SixLines, defaults, true},
         {"a word for a colour", SixLines + "green 128 8421504 0\r\n0 1 1 0 0\r\n", defaults, true},

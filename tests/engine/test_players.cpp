@@ -4,9 +4,12 @@
 #include "core/Board.h"
 #include "records/LayoutFile.h"
 #include "records/PlayerSettings.h"
+#include "records/PositionRecord.h"
 #include "session/ComputerMoves.h"
 #include "session/Pointer.h"
+#include "session/StrongTurn.h"
 #include "support/Fixtures.h"
+#include "support/LayoutText.h"
 
 using namespace jv;
 using jv::test::TestGame;
@@ -49,6 +52,33 @@ TEST(StrongPlayer, PlaysItsSideAndStopsWhenTheGameChangesUnderIt) {
         EXPECT_EQ(t.g.Undo.size(), interrupted ? 0u : 1u) << interrupted;
         EXPECT_EQ(t.g.SearchLines.empty(), interrupted);
         if (interrupted) EXPECT_TRUE(t.view.Messages().empty());
+    }
+}
+
+TEST(StrongPlayer, ComingBackToAPositionOfTheGameIsADrawForTheSideToMoveThere) {
+    // Coming back to a position of the game with the same side to move is a draw; the history's sides alternate.
+    using jv::test::LayoutText;
+    // The King on C4 wins fastest by A4, open to A1 and A7. The history is newest first: a record at an even place
+    // is a position with the attackers to move, at an odd place one with the defenders to move.
+    const std::string now = LayoutText({".......", ".......", ".a.K.a.", ".......", "...a...", ".......", "......."});
+    const std::string onA4 = LayoutText({"...K...", ".......", ".a...a.", ".......", "...a...", ".......", "......."});
+    const struct { const char* why; int recordsBefore; bool playsA4; } rows[] = {
+        {"A4 not in the history", -1, true},
+        {"A4 the position the attackers' last move began from", 0, false},
+        {"A4 the position the defenders' last move began from", 1, true},
+        {"A4 the position of the attackers' move before", 2, false},
+    };
+    for (const auto& r : rows) {
+        TestGame t;
+        ASSERT_TRUE(ApplyLayoutLine(t.g, onA4).Ok());
+        const std::string earlier = EncodePosition(t.g);
+        ASSERT_TRUE(ApplyLayoutLine(t.g, now).Ok());
+        for (int k = 0; k < r.recordsBefore; ++k) t.g.Undo.push_back(EncodePosition(t.g));
+        if (r.recordsBefore >= 0) t.g.Undo.push_back(earlier);
+        t.g.Players = {PlayerKind::Classic, PlayerKind::Strong, 1000};   // a forced result ends the search
+        const std::optional<Move> move = ThinkStrong(t.g, DefenderCode);
+        ASSERT_TRUE(move.has_value()) << r.why;
+        EXPECT_EQ(*move == (Move{3, 4, 1, 4}), r.playsA4) << r.why;
     }
 }
 

@@ -8,6 +8,7 @@
 #include "records/LayoutFile.h"
 #include "records/PositionRecord.h"
 #include "support/Fixtures.h"
+#include "support/LayoutText.h"
 
 using namespace jv;
 using jv::test::TestGame;
@@ -76,4 +77,31 @@ TEST(Pointer, DropsFollowTheBoardEvenWhenTheTablesAreStale) {
     ASSERT_TRUE(BeginDrag(g, 2, 2));
     EXPECT_EQ(std::tuple(AcceptsDrop(g, 2, 3), AcceptsDrop(g, 2, 4), AcceptsDrop(g, 2, 5)), std::tuple(true, false, false));
     EXPECT_EQ(PieceTargets(g, 2, 2), "0102,0302,0402,0502,0602,0702,0201,0203,");
+}
+
+TEST(Pointer, OnlyTheKingStopsOnTheCentreTheSquarePastTheMiddleOnAnEvenSide) {
+    // Only the King stops on the centre: the middle square of an odd side, the one past the middle of an even one.
+    using jv::test::LayoutText;
+    const std::string even = LayoutText({"......", "......", "...d..", "d.....", "......", "...K.."});   // 6 by 6
+    const std::string wide = LayoutText({".....", "..d..", ".....", ".....", ".....", ".....", "..K..", "....."});
+    const struct { const char* why; std::string layout; int fromCol, fromRow, toCol, toRow; bool moved; } rows[] = {
+        {"a defender onto D4 of 7 by 7", LayoutText({".......", "...d...", ".......", ".......", ".......", ".......", "......."}),
+         2, 4, 4, 4, false},
+        {"a defender onto D4 of 6 by 6", even, 4, 1, 4, 4, false},
+        {"a defender onto C3 of 6 by 6", even, 3, 4, 3, 3, true},
+        {"the King onto D4 of 6 by 6", even, 6, 4, 4, 4, true},
+        {"a defender onto E3 of 8 by 5", wide, 2, 3, 5, 3, false},
+        {"a defender onto D3 of 8 by 5", wide, 2, 3, 4, 3, true},
+        {"the King onto E3 of 8 by 5", wide, 7, 3, 5, 3, true},
+    };
+    for (const auto& r : rows) {
+        TestGame t;
+        ASSERT_TRUE(ApplyLayoutLine(t.g, r.layout).Ok()) << r.why;
+        t.g.Check1 = false;
+        const int mover = t.g.Board(r.fromCol, r.fromRow);
+        ASSERT_TRUE(BeginDrag(t.g, r.fromCol, r.fromRow)) << r.why;
+        EndDrag(t.g, r.toCol, r.toRow);
+        EXPECT_EQ(t.g.Board(r.toCol, r.toRow) == mover, r.moved) << r.why;
+        EXPECT_EQ(t.g.Undo.size(), r.moved ? 1u : 0u) << r.why;
+    }
 }

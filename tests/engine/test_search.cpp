@@ -1,14 +1,10 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <vector>
 
-#include "session/ComputerMoves.h"
 #include "ai/Search.h"
-#include "core/RuleBoard.h"
-#include "core/Move.h"
-#include "core/Perft.h"
-#include "session/Pointer.h"
 #include "records/LayoutFile.h"
-#include "session/PlayerMoves.h"
 #include "support/Fixtures.h"
 #include "support/LayoutText.h"
 

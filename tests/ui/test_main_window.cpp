@@ -2,6 +2,7 @@
 // also from inside the automatic game.
 #include "WindowFixture.h"
 #include "records/ColourScheme.h"
+#include "records/PositionRecord.h"
 #include "session/ComputerMoves.h"
 #include "ui/BoardPainter.h"
 #include "ui/MsgForm.h"
@@ -90,6 +91,35 @@ private slots:
         MakeRedAutoMove(s.g());
         QCOMPARE(s.g().Undo.size(), moves + 1);
         QVERIFY(s.Find<QListWidget>("SearchLines")->count() > 0);
+    }
+
+    void EachRandomButtonMovesItsSide_data() {
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<int>("moves");
+        QTest::addColumn<int>("first");   // the side of the first move and of the last
+        QTest::addColumn<int>("last");
+        QTest::newRow("GreenRandom") << "cmdGreenRandom" << 1 << int(AttackerCode) << int(AttackerCode);
+        QTest::newRow("RedRandom") << "cmdRedRandom" << 1 << int(DefenderCode) << int(DefenderCode);
+        QTest::newRow("Red/GreenRandom") << "cmdRedGreenRandom" << 20 << int(AttackerCode) << int(DefenderCode);
+    }
+    void EachRandomButtonMovesItsSide() {
+        // "GreenRandom" moves an attacker, "RedRandom" a defender, "Red/GreenRandom" ten of each, attackers first.
+        QFETCH(QString, button);
+        QFETCH(int, moves);
+        QFETCH(int, first);
+        QFETCH(int, last);
+        StartedWindow s;
+        s.Press(qPrintable(button));
+        const std::vector<std::string>& undo = s.g().Undo;   // newest first
+        QCOMPARE(int(undo.size()), moves);
+        const auto mover = [](const std::string& before, const std::string& after) {   // the side of the piece that left
+            for (std::size_t i = 4; i < before.size() && i < after.size(); ++i)
+                if (before[i] != 'E' && after[i] == 'E')
+                    return before[i] == '1' ? int(AttackerCode) : int(DefenderCode);
+            return -1;
+        };
+        QCOMPARE(mover(undo.back(), moves > 1 ? undo[undo.size() - 2] : EncodePosition(s.g())), first);
+        QCOMPARE(mover(undo.front(), EncodePosition(s.g())), last);
     }
 
     void NewGameClearsTheReasoningPanes() {

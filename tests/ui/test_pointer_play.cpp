@@ -88,6 +88,36 @@ private slots:
         QCOMPARE(p.window.statusBar()->currentMessage(), QString("F6: King"));
     }
 
+    void ThePointersSquareRunsToItsLastPixel_data() {
+        QTest::addColumn<Square>("square");
+        QTest::addColumn<int>("across");   // the pixel: -1 the one before the square, 0 its first, 1 its last,
+        QTest::addColumn<int>("down");     // 2 the first past it
+        QTest::addColumn<Square>("found");
+        QTest::newRow("first pixel") << Square{4, 6} << 0 << 0 << Square{4, 6};
+        QTest::newRow("last pixel") << Square{4, 6} << 1 << 1 << Square{4, 6};
+        QTest::newRow("last across, first down") << Square{4, 6} << 1 << 0 << Square{4, 6};
+        QTest::newRow("past it across") << Square{4, 6} << 2 << 1 << Square{4, 7};
+        QTest::newRow("past it down") << Square{4, 6} << 1 << 2 << Square{5, 6};
+        QTest::newRow("before it") << Square{4, 6} << -1 << -1 << Square{3, 5};
+        QTest::newRow("last pixel of the board") << Square{11, 11} << 1 << 1 << Square{11, 11};
+        QTest::newRow("past the board") << Square{11, 11} << 2 << 1 << Square{};
+    }
+    void ThePointersSquareRunsToItsLastPixel() {
+        // The pointer is over a square from its first pixel to its last, the next one's starting one pixel on.
+        QFETCH(Square, square);
+        QFETCH(int, across);
+        QFETCH(int, down);
+        QFETCH(Square, found);
+        Playing p;
+        const ui::BoardGeometry& geo = p.Board()->Geometry();
+        const int side = ui::ToPixels(geo.SquareSize);
+        const auto pixel = [&](int start, int k) { return start + (k == -1 ? -1 : k == 0 ? 0 : k == 1 ? side - 1 : side); };
+        const QPoint at(pixel(ui::ToPixels(geo.Left(square.Col, square.Row)), across),
+                        pixel(ui::ToPixels(geo.Top(square.Col, square.Row)), down));
+        SendMouse(p.Board(), QEvent::MouseMove, at, Qt::NoButton);
+        QCOMPARE(std::pair(p.g().PointerSquare.Col, p.g().PointerSquare.Row), std::pair(found.Col, found.Row));
+    }
+
     void CaptureIsMarkedRemovedAndLogged() {
         // A captured attacker carries the small mark during the capture's pause, then is removed and logged.
         Playing p(20);
