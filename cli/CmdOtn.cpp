@@ -33,8 +33,9 @@ int RunFromOtn(const Args& args) {
     }
     CommandGame game;
     Game& g = game.g;
-    if (!ApplyLayoutLine(g, line).Ok() || !WriteLayoutFile(g, args[1])) {
-        std::cerr << "Layout File:\n" << args[1] << "\ncould not be written\n";
+    const WriteResult written = ApplyLayoutLine(g, line).Ok() ? WriteLayoutFile(g, args[1]) : WriteResult{};
+    if (!written.Ok()) {
+        std::cerr << "Layout File:\n" << args[1] << '\n' << written.Problem("could not be written") << '\n';
         return 2;
     }
     std::cout << line << '\n';

@@ -23,8 +23,9 @@ bool IsOtnFileName(const std::string& name) { return EndsWith(name, ".otn"); }
 
 bool IsOtnGameFileName(const std::string& name) { return EndsWith(name, ".otg"); }
 
-bool WriteOtnFile(const Game& g, const std::string& path) {
-    return g.BoardWidth == g.BoardHeight && WriteFileAtomically(path, OtnPosition(g) + "\r\n");
+WriteResult WriteOtnFile(const Game& g, const std::string& path) {
+    if (g.BoardWidth != g.BoardHeight) return {};
+    return WriteFileAtomically(path, OtnPosition(g) + "\r\n");
 }
 
 }  // namespace jv
