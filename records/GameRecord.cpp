@@ -508,6 +508,9 @@ GameRecordResult MakeGameRecord(const std::vector<std::string>& layoutLines) {
     std::string reason;
     LoggedPosition first, before, after;
     if (!ReadPosition(g, layoutLines.front(), first, reason)) return Refuse(1, reason);
+    SetBoard(g, first);
+    // The start is written as OTN, which the readers must take back.
+    if (const std::string refusal = OtnRefusal(g); !refusal.empty()) return Refuse(1, refusal);
     before = first;
     MoveNumbers numbers;
     for (std::size_t i = 1; i < layoutLines.size(); ++i) {

@@ -33,7 +33,7 @@ struct GameRecordResult {
 };
 
 // layoutLines: the positions as layout lines, oldest first; all must be of
-// the first one's size.
+// the first one's size, and the first one a position OTN can hold (OtnRefusal).
 GameRecordResult MakeGameRecord(const std::vector<std::string>& layoutLines);
 
 // Reading: the record's tags and comments stand in brackets; the rules

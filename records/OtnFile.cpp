@@ -24,7 +24,8 @@ bool IsOtnFileName(const std::string& name) { return EndsWith(name, ".otn"); }
 bool IsOtnGameFileName(const std::string& name) { return EndsWith(name, ".otg"); }
 
 WriteResult WriteOtnFile(const Game& g, const std::string& path) {
-    if (g.BoardWidth != g.BoardHeight) return {};
+    const std::string refusal = OtnRefusal(g);
+    if (!refusal.empty()) return {false, "cannot hold this position: " + refusal};
     return WriteFileAtomically(path, OtnPosition(g) + "\r\n");
 }
 

@@ -23,6 +23,7 @@ TEST(Cli, EachCommandPrintsItsResultOrRefusesWithItsExitCode) {
     t.CopyData();
     t.WriteFile("small.txt", Small + "\r\n");
     t.WriteFile("game.txt", Small + "\r\n" + Moved + "\r\n" + KingMoved + "\r\n");
+    t.WriteFile("noking.log", "03030000HEHE0EHEH\r\n");
     t.WriteFile("bad.txt", Small + "\r\n" + Moved + "\r\n" + Small + "\r\n" + KingMoved + "\r\n");
     t.WriteFile("kinghome.txt", "07070104HEE0EEH" + std::string(35, 'E') + "HEEEEEH\r\n");
     t.WriteFile("taken.txt", "07070401HEEEEEHE1EEEEE10EEEEE0EEEEEE1EEEEEEE1EEEEEHEEEEEH\r\n");
@@ -41,6 +42,8 @@ TEST(Cli, EachCommandPrintsItsResultOrRefusesWithItsExitCode) {
         {"from-otn /1tK1t2/2t1T2/7/7/7/7/7/ '" + t.Path("king.txt") + "'", "", 0, {"07070703HEEEEEHEEEEEEEEEEEEEEEEEEEEEEEEEEEEEE1E0EEH10E1EH"}, ""},
         {"otn '" + t.Path("king.txt") + "'", "", 0, {"/1tK1t2/2t1T2/7/7/7/7/7/"}, ""},
         {"otn -", "03050202HEEEH00EEEHEE1H\n", 2, {}, "An OpenTafl board is square: this layout is 3x5\n"},
+        {"otn -", "03030000HEHE0EHEH\n", 2, {}, "No OpenTafl position can be written of this layout: the position has no King\n"},
+        {"record noking.log", "", 2, {}, "Moves Log File:\nnoking.log\nline 1: the position has no King\n"},
         {"record game.txt", "", 0, {"[rules:dim:5 esc:c surf:n atkf:y tfr:i ka:y ks:y cenh: cenhe: start:/5/5/2K2/1t3/5/]", "",
           "1. b4-d4 Kc3-c2"}, ""},
         {"record bad.txt", "", 2, {}, "Moves Log File:\nbad.txt\nline 3: the attackers move twice in a row, where a record has "
