@@ -18,7 +18,8 @@ const std::string KingMoved = "05050403HEEEHEEE1EEEEEEEE0EEHEEEH";   // then the
 }  // namespace
 
 TEST(Cli, EachCommandPrintsItsResultOrRefusesWithItsExitCode) {
-    // Each command prints its result and exits 0, or exits 2 when it cannot read its input and 1 on misuse.
+    // Each command prints its result and exits 0, or exits 2 when it cannot read or play its input (every refused
+    // move named with its reason) and 1 on misuse.
     TestGame t;
     t.CopyData();
     t.WriteFile("small.txt", Small + "\r\n");
@@ -50,20 +51,27 @@ TEST(Cli, EachCommandPrintsItsResultOrRefusesWithItsExitCode) {
                                       "the sides take turns\n"},
         {"replay game.txt", "", 0, {"Step 1 of 3", "    1  2  3  4  5", "B   .  a  .  .  .", "Step 3 of 3", "D   .  .  K  .  ."}, ""},
         {"play pattern1.txt 'user:0304>0302' 'user:0504>0502' 'user:0104>0105' 'user:0404>0304' 'user:0405>0404' "
-         "'attacker:0604>0504' undo 'defender:0403>0303'", "", 0,
+         "'attacker:0604>0504' undo 'defender:0403>0303'", "", 2,
          {"Loaded Layout: pattern1.txt", "  Player1 Move C4 > C2", "  Player1 Move E4 > E2", "  Player 1 captures D2",
-          "REFUSED user:0104>0105: d7 holds no piece of the defenders", "  King Move D4 > C4", "REFUSED user:0405>0404", "  Player2 Move F4 > E4",
+          "REFUSED user:0104>0105: d7 holds no piece of the defenders", "  King Move D4 > C4",
+          "REFUSED user:0405>0404: d4 is not a square the piece on e4 may reach", "  Player2 Move F4 > E4",
           "  Player1 Move D3 > C3", "LAYOUT 07070304HEE1EEHEEE1EEEE000EEE1EEE011E0EEEEEEEE1EEEHEE1EEH"}, ""},
         {"play pattern1.txt user:d5-b5xb6 user:d5-b5 attacker:b2-b3 defender:a4-c4 attacker:g4-c4 user:Kd4-d5- "
-         "attacker:d7-b7 user:h1-a1", "", 0,
+         "attacker:d7-b7 user:h1-a1", "", 2,
          {"REFUSED user:d5-b5xb6: d5-b5 takes nothing, not b6", "  Player1 Move C4 > C2",
           "REFUSED attacker:b2-b3: b2 holds no piece of the attackers", "REFUSED defender:a4-c4: a4 holds no piece of the defenders",
-          "REFUSED attacker:g4-c4: g4-c4 passes over f4", "  King Move D4 > C4", "  Player2 Move A4 > A2", "REFUSED user:h1-a1"}, ""},
-        {"play kinghome.txt 'user:0104>0101' 'user:0101>0102'", "", 0,
-         {"MESSAGE [vbhappy+vbok]: King at Home ! / Click Reset to start a new game", "REFUSED user:0101>0102"}, ""},
-        {"play taken.txt 'attacker:0602>0402' 'user:0302>0303'", "", 0,
-         {"MESSAGE [vbcritical+vbok]: King Captured ! / Click Reset to start a new game", "REFUSED user:0302>0303"}, ""},
-        {"play pattern1.txt 'attacker:0009>0101'", "", 0, {"REFUSED attacker:0009>0101"}, ""},
+          "REFUSED attacker:g4-c4: g4-c4 passes over f4", "  King Move D4 > C4", "  Player2 Move A4 > A2",
+          "REFUSED user:h1-a1: h1-a1 names a square off the 7x7 board"}, ""},
+        {"play kinghome.txt 'user:0104>0101' 'user:0101>0102'", "", 2,
+         {"MESSAGE [vbhappy+vbok]: King at Home ! / Click Reset to start a new game",
+          "REFUSED user:0101>0102: the game is over, the board takes no move"}, ""},
+        {"play taken.txt 'attacker:0602>0402' 'user:0302>0303'", "", 2,
+         {"MESSAGE [vbcritical+vbok]: King Captured ! / Click Reset to start a new game",
+          "REFUSED user:0302>0303: the game is over, the board takes no move"}, ""},
+        {"play pattern1.txt 'attacker:0009>0101' 'user:9999>0101'", "", 2,
+         {"REFUSED attacker:0009>0101: the square 0009 is off the 7x7 board",
+          "REFUSED user:9999>0101: the square 9999 is off the 7x7 board"}, ""},
+        {"play pattern1.txt 'user:0304>0302' red", "", 0, {"  Player1 Move C4 > C2"}, ""},
         {"play pattern1.txt user:d5b5", "", 1, {}, "?"},
         {"play nothere.txt", "", 2, {"MESSAGE [vbcritical+vbok]: Error reading Layout File: / nothere.txt"}, "?"},
         {"perft pattern1.txt 1", "", 0, {"0304>0303: 1", "total: 24"}, ""},
