@@ -25,6 +25,10 @@ TEST(Cli, EachCommandPrintsItsResultOrRefusesWithItsExitCode) {
     t.WriteFile("small.txt", Small + "\r\n");
     t.WriteFile("game.txt", Small + "\r\n" + Moved + "\r\n" + KingMoved + "\r\n");
     t.WriteFile("noking.log", "03030000HEHE0EHEH\r\n");
+    t.WriteFile("kingless.txt", "07070000HEE1EEHEEE1EEEEEE0EEE1100011EEE0EEEEEE1EEEHEE1EEH\r\n");
+    t.WriteFile("kingonattacker.txt", "07070104HEE1EEHEEE1EEEEEE0EEE1100011EEE0EEEEEE1EEEHEE1EEH\r\n");
+    t.WriteFile("two.txt", "02020101HHHH\r\n");
+    const std::string soakLogs = "'" + t.Path("soak") + "'";
     t.WriteFile("bad.txt", Small + "\r\n" + Moved + "\r\n" + Small + "\r\n" + KingMoved + "\r\n");
     t.WriteFile("kinghome.txt", "07070104HEE0EEH" + std::string(35, 'E') + "HEEEEEH\r\n");
     t.WriteFile("taken.txt", "07070401HEEEEEHE1EEEEE10EEEEE0EEEEEE1EEEEEEE1EEEEEHEEEEEH\r\n");
@@ -82,6 +86,12 @@ TEST(Cli, EachCommandPrintsItsResultOrRefusesWithItsExitCode) {
           "2 games: King captured 0, King at Home 0, King with a free run home 2, no move for the defenders 0, "
           "no move for the attackers 0, move limit 0"}, ""},
         {"selfplay kinghome.txt --games x", "", 1, {}, "?"},
+        {"soak pattern1.txt kingless.txt --moves 10 --log " + soakLogs, "", 2, {},
+         "Layout File:\nkingless.txt\ncannot be played: there is no King on the board\n"},
+        {"soak kingonattacker.txt --log " + soakLogs, "", 2, {},
+         "Layout File:\nkingonattacker.txt\ncannot be played: the King's square A4 holds an attacker\n"},
+        {"soak two.txt --log " + soakLogs, "", 2, {},
+         "Layout File:\ntwo.txt\ncannot be played: the King stands on the corner A1: the game is over before it starts\n"},
     };
     for (const auto& r : rows) {
         const auto result = RunCli(r.args, t.folder.string(), r.input);
