@@ -18,8 +18,7 @@ const std::string KingMoved = "05050403HEEEHEEE1EEEEEEEE0EEHEEEH";   // then the
 }  // namespace
 
 TEST(Cli, EachCommandPrintsItsResultOrRefusesWithItsExitCode) {
-    // Each command prints its result and exits 0, or exits 2 when it cannot read or play its input (every refused
-    // move named with its reason) and 1 on misuse.
+    // Each command prints its result and exits 0, 2 when it cannot read or play its input (saying why), 1 on misuse.
     TestGame t;
     t.CopyData();
     t.WriteFile("small.txt", Small + "\r\n");

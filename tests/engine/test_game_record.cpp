@@ -78,8 +78,7 @@ TEST(GameRecord, TheMovesOfALoggedGameAreWrittenInTurnWithTheirCapturesAndReadBa
 }
 
 TEST(GameRecord, AnOpenTaflRecordIsReadAndEachMoveTheRulesRefuseIsReported) {
-    // A record by another program replays its main line (its variations skipped) under this program's rules, or
-    // names the first move they refuse and why.
+    // Another program's record replays its main line (variations skipped) by these rules, or names the first refusal.
     const std::string brandubh = "[rules:dim:7 ks:n cenhe: cenh: start:/3t3/3t3/3T3/ttTKTtt/3T3/3t3/3t3/]\n\n";
     const std::string kingOnC1 = "dim:7 start:/1tK1t2/2t1T2/7/7/7/7/7/\n";
     const struct { std::string record; const char* verdict; } rows[] = {

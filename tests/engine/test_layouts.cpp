@@ -36,8 +36,7 @@ TEST(LoadLayout, AFailedLoadBringsThePreviousLayoutBackOrAnEmptyBoard) {
 }
 
 TEST(LayoutCommands, LoadResetAndSaveAskThenActAndConfirm) {
-    // Load, reset and save ask first, then act and confirm; a save that fails keeps the old file, one onto a folder
-    // says so.
+    // Load, reset and save ask first, then act and confirm; a failed save keeps the old file and says why.
     TestGame t;
     Game& g = t.g;
     t.CopyData("patf.txt");

@@ -111,8 +111,7 @@ TEST(Otn, PositionsNoBoardOfTheProgramHoldsAreRefusedWithTheirReason) {
 }
 
 TEST(Otn, APositionTheReaderWouldRefuseIsNeverWritten) {
-    // A layout whose OTN no reader takes back (no King, his square holding an attacker, the King on a corner, a
-    // board that is not square) is neither saved as .otn nor the start of a game record, and says why.
+    // A position whose OTN no reader takes back is neither saved as .otn nor a game record's start, and says why.
     const struct { const char* layout; const char* refusal; const char* record; } rows[] = {
         {"03030000HEHE0EHEH", "the position has no King", "line 1: the position has no King"},
         {"03030202HEHE1EHEH", "the position has no King", "line 1: the position has no King"},
