@@ -13,8 +13,7 @@ namespace {
 // As many links as the system itself follows before it gives up on a path.
 constexpr int MaxLinks = 40;
 
-}  // namespace
-
+// The refusal for a file of this type ("" for a regular file).
 std::string RefusalOfType(mode_t mode) {
     if (S_ISREG(mode)) return "";
     if (S_ISDIR(mode)) return "is a folder, not a file";
@@ -23,6 +22,8 @@ std::string RefusalOfType(mode_t mode) {
     if (S_ISSOCK(mode)) return "is a socket, not a file";
     return "is not a file";
 }
+
+}  // namespace
 
 FileTarget FindFileTarget(const std::string& path) {
     FileTarget target;

@@ -23,7 +23,4 @@ struct FileTarget {
 // itself then succeeds or fails.
 FileTarget FindFileTarget(const std::string& path);
 
-// The refusal for a file of this type ("" for a regular file).
-std::string RefusalOfType(mode_t mode);
-
 }  // namespace jv
