@@ -7,8 +7,8 @@
 
 namespace jv::cli {
 
-// The OpenTafl position of a layout; an OpenTafl board is square, so a
-// layout of another shape is refused.
+// The OpenTafl position of a layout; one the OTN reader would refuse (a
+// board that is not square, no King) is refused.
 int RunOtn(const Args& args) {
     if (!HasArguments(args, 1, "otn FILE|-")) return 1;
     CommandGame game;
@@ -16,6 +16,10 @@ int RunOtn(const Args& args) {
     if (!ReadLayoutArgument(game.g, args[0])) return 2;
     if (g.BoardWidth != g.BoardHeight) {
         std::cerr << "An OpenTafl board is square: this layout is " << g.BoardWidth << "x" << g.BoardHeight << '\n';
+        return 2;
+    }
+    if (const std::string refusal = OtnRefusal(g); !refusal.empty()) {
+        std::cerr << "No OpenTafl position can be written of this layout: " << refusal << '\n';
         return 2;
     }
     std::cout << OtnPosition(g) << '\n';
@@ -33,8 +37,9 @@ int RunFromOtn(const Args& args) {
     }
     CommandGame game;
     Game& g = game.g;
-    if (!ApplyLayoutLine(g, line).Ok() || !WriteLayoutFile(g, args[1])) {
-        std::cerr << "Layout File:\n" << args[1] << "\ncould not be written\n";
+    const WriteResult written = ApplyLayoutLine(g, line).Ok() ? WriteLayoutFile(g, args[1]) : WriteResult{};
+    if (!written.Ok()) {
+        std::cerr << "Layout File:\n" << args[1] << '\n' << written.Problem("could not be written") << '\n';
         return 2;
     }
     std::cout << line << '\n';

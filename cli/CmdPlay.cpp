@@ -4,6 +4,7 @@
 #include "cli/CliView.h"
 #include "cli/Commands.h"
 #include "core/Move.h"
+#include "core/VbText.h"
 #include "records/Configuration.h"
 #include "records/GameRecord.h"
 #include "records/Notation.h"
@@ -64,37 +65,48 @@ bool InPlay(const Game& g, int col, int row) {
     return col >= 1 && col <= g.BoardWidth && row >= 1 && row <= g.BoardHeight;
 }
 
-// The user's drag and drop; false when the board did not change.
-bool UserMove(Game& g, const Move& s) {
+// The user's drag and drop; "" when the board took it, else why not.
+std::string UserMove(Game& g, const Move& s) {
+    if (!g.BoardEnabled) return "the game is over, the board takes no move";
     const std::string before = EncodePosition(g);
     if (BeginDrag(g, s.From.Col, s.From.Row)) EndDrag(g, s.To.Col, s.To.Row);
-    return EncodePosition(g) != before;
+    if (EncodePosition(g) != before) return "";
+    return StandardSquare(g, s.To.Col, s.To.Row) + " is not a square the piece on " +
+           StandardSquare(g, s.From.Col, s.From.Row) + " may reach";
+}
+
+// A square of a "CCRR>CCRR" step that is not on the board, as written; "" when both are.
+std::string SquareOffBoard(const Game& g, const Move& s) {
+    for (const Square& square : {s.From, s.To})
+        if (!InPlay(g, square.Col, square.Row)) return Format(square.Col, "00") + Format(square.Row, "00");
+    return "";
 }
 
 // The move a step names, checked against the rules before anything is made:
-// false when it names no move of the board, or with the reason the rules
-// give.
-bool ReadStepMove(const Game& g, const Step& step, Move& s, std::string& reason) {
+// "" when they allow it, else why not.
+std::string RefuseStepMove(const Game& g, const Step& step, Move& s) {
+    const std::string board = "the " + std::to_string(g.BoardWidth) + "x" + std::to_string(g.BoardHeight) + " board";
     WrittenMove w;
     w.Squares = step.Squares;
-    if (!step.Standard.empty() && !ReadStandardMove(g, step.Standard, w)) return false;   // no move of this board
-    if (!InPlay(g, w.Squares.From.Col, w.Squares.From.Row) || !InPlay(g, w.Squares.To.Col, w.Squares.To.Row)) return false;
+    if (!step.Standard.empty() && !ReadStandardMove(g, step.Standard, w))
+        return step.Standard + " names a square off " + board;
+    if (const std::string off = SquareOffBoard(g, w.Squares); !off.empty()) return "the square " + off + " is off " + board;
     s = w.Squares;
-    reason = RefuseWrittenMove(g, w, step.Kind == "attacker" ? 'a' : 'd');
-    return reason.empty();
+    const bool attackers = step.Kind == "attacker" || (step.Kind == "user" && g.Players.UserSide == AttackerCode);
+    return RefuseWrittenMove(g, w, attackers ? 'a' : 'd');
 }
 
-// Applies one step; false, with the reason when there is one, when it was refused.
-bool Apply(Game& g, const Step& step, std::string& reason) {
+// Applies one step; "" when it was made, else why it was refused.
+std::string Apply(Game& g, const Step& step) {
     Move s;
     if (step.Kind == "red") MakeRedAutoMove(g);
     else if (step.Kind == "green") MakeGreenAutoMove(g);
     else if (step.Kind == "undo") UndoCommand(g);
-    else if (!ReadStepMove(g, step, s, reason)) return false;
+    else if (const std::string refusal = RefuseStepMove(g, step, s); !refusal.empty()) return refusal;
     else if (step.Kind == "user") return UserMove(g, s);
     else if (step.Kind == "attacker") MakeAttackerMove(g, s);
     else MakeDefenderMove(g, s);
-    return true;
+    return "";
 }
 
 }  // namespace
@@ -140,12 +152,17 @@ int RunPlay(const Args& args) {
     if (!FileExists(InProgramFolder(g, file)) && FileExists(file)) name = ResolveArgument(g, file);
     LoadLayout(g, name);
     if (g.LayoutFile != name) return 2;   // reported by LoadLayout
+    // A refused step is reported and the next ones are still played, so that
+    // one run shows every refusal; the exit code then says there was one.
+    bool refused = false;
     for (const Step& step : steps) {
-        std::string reason;
-        if (!Apply(g, step, reason)) std::cout << "REFUSED " << step.Text << (reason.empty() ? "" : ": " + reason) << '\n';
+        const std::string refusal = Apply(g, step);
+        if (refusal.empty()) continue;
+        std::cout << "REFUSED " << step.Text << ": " << refusal << '\n';
+        refused = true;
     }
     std::cout << "LAYOUT " << LayoutLine(g) << '\n';
-    return 0;
+    return refused ? 2 : 0;
 }
 
 }  // namespace jv::cli

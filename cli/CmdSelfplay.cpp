@@ -76,7 +76,9 @@ int RunSelfplay(const Args& args) {
 
         const AutoGameResult result = PlayAutoGame(g, o.MaxMoves);
         // The last line holds the final position, as when recording stops.
-        if (!g.MovesLogFile.empty()) AppendLine(g.MovesLogFile, LayoutLine(g));
+        const WriteResult last = g.MovesLogFile.empty() ? WriteResult{true, ""} : AppendLine(g.MovesLogFile, LayoutLine(g));
+        if (!last.Ok())
+            std::cerr << "Moves Log File:\n" << g.MovesLogFile << '\n' << last.Problem("could not be written") << '\n';
         std::cout << "game " << game << ": " << GameEndText(result.End) << " after " << result.Moves << " moves\n";
         ++ends[result.End];
         totalMoves += result.Moves;

@@ -6,6 +6,7 @@
 
 #include "cli/Commands.h"
 #include "cli/Soak.h"
+#include "core/Board.h"
 
 namespace jv::cli {
 
@@ -35,6 +36,30 @@ bool ParseOptions(const Args& args, Options& o) {
         return a == "--seed" && ReadCount(value, o.Seed);
     };
     return ReadArguments(args, layout, option) && !o.Layouts.empty();
+}
+
+// Why no game can be played from the layout as loaded ("" when one can): a
+// run on it would only report the engine failing. A 2x2 board is all
+// corners, so its King is on one or there is none.
+std::string UnplayableLayout(const Game& g) {
+    const int col = g.KingCol, row = g.KingRow;
+    if (col < 1 || col > g.BoardWidth || row < 1 || row > g.BoardHeight) return "there is no King on the board";
+    const std::string square = SquareName(g, col, row);
+    if (IsCorner(g, col, row)) return "the King stands on the corner " + square + ": the game is over before it starts";
+    if (g.Board(col, row) == AttackerCode) return "the King's square " + square + " holds an attacker";
+    if (g.Board(col, row) != DefenderCode) return "the King's square " + square + " holds no piece";
+    return "";
+}
+
+// Loads a layout as the run will: false, reported, when it cannot be read
+// or played.
+bool PlayableLayout(const std::string& layout) {
+    CommandGame game(true);
+    if (!LoadLayoutArgument(game.g, layout)) return false;
+    const std::string reason = UnplayableLayout(game.g);
+    if (reason.empty()) return true;
+    std::cerr << "Layout File:\n" << layout << "\ncannot be played: " << reason << '\n';
+    return false;
 }
 
 double KiB(std::int64_t bytes) { return static_cast<double>(bytes) / 1024.0; }
@@ -67,6 +92,10 @@ int RunSoak(const Args& args) {
         std::cerr << SoakUsage;
         return 1;
     }
+    // Every layout is looked at before the first run starts, so a bad one at
+    // the end of the list does not stop a long run halfway.
+    for (const std::string& layout : o.Layouts)
+        if (!PlayableLayout(layout)) return 2;
     std::error_code ec;
     std::filesystem::create_directories(o.LogFolder, ec);
     bool passed = true;

@@ -10,7 +10,8 @@
 namespace jv::cli {
 
 // Each command takes its arguments (after the command's name) and returns
-// the process exit code: 0 done, 1 refused usage, 2 unreadable input.
+// the process exit code: 0 done, 1 refused usage, 2 input refused (a file
+// that cannot be read, a layout or a move that cannot be played).
 using Args = std::vector<std::string>;
 
 int RunAnalyse(const Args& args);

@@ -27,6 +27,7 @@
 #include "fuzz/FuzzView.h"
 #include "records/ColourScheme.h"
 #include "records/Configuration.h"
+#include "records/GameRecord.h"
 #include "records/LayoutFile.h"
 #include "session/Recording.h"
 #include "records/PositionRecord.h"
@@ -379,19 +380,41 @@ inline std::string RunVal(std::string_view input) {
     return "";
 }
 
+// ReadOtnGame on the input as the text of an .otg file. It reads every move
+// or gives its reason; every position it gives is a layout line of the
+// start's board that reads back to itself; and those positions, written as a
+// game record, read back to the same positions: what the reader takes is a
+// game the program can write.
+inline std::string RunGameRecord(std::string_view input) {
+    const OtnGameResult game = ReadOtnGame(std::string(input));
+    if (game.Ok == !game.Reason.empty()) return game.Ok ? "a record read whole has a reason" : "a refusal without a reason";
+    if (game.Positions.empty()) return game.Ok ? "a record read whole has no start" : "";
+    Game& g = CleanGame(RunSlot).g;
+    for (const std::string& line : game.Positions) {
+        if (line.compare(0, 4, game.Positions.front(), 0, 4) != 0) return "a position of another board size";
+        if (!ApplyLayoutLine(g, line).Ok() || LayoutLine(g) != line) return "a position does not read back as itself";
+    }
+    const GameRecordResult record = MakeGameRecord(game.Positions);
+    if (!record.Ok) return "the game read is not written: line " + std::to_string(record.BadLine) + ": " + record.Reason;
+    const OtnGameResult again = ReadOtnGame(JoinLines(record.Lines));
+    if (!again.Ok) return "the record written is refused: " + again.Reason;
+    return again.Positions == game.Positions ? "" : "the record written reads back to other positions";
+}
+
 // The readers by name, the name being the folder of their kept inputs.
 struct Reader {
     const char* Name;
     std::string (*Run)(std::string_view);
 };
 
-inline const std::array<Reader, 6>& Readers() {
-    static const std::array<Reader, 6> readers{{{"layout_file", RunLayoutFile},
+inline const std::array<Reader, 7>& Readers() {
+    static const std::array<Reader, 7> readers{{{"layout_file", RunLayoutFile},
                                                 {"position_record", RunPositionRecord},
                                                 {"configuration", RunConfiguration},
                                                 {"colour_scheme", RunColourScheme},
                                                 {"moves_log", RunMovesLog},
-                                                {"val", RunVal}}};
+                                                {"val", RunVal},
+                                                {"game_record", RunGameRecord}}};
     return readers;
 }
 

@@ -172,13 +172,15 @@ void WriteDefaultConfiguration(Game& g, const std::string& name) {
     // ShowLabels, ColourMode and the fifth setting keep their values. A
     // defaults file that cannot be written is not reported: the defaults are
     // in force all the same.
-    WriteFileAtomically(InProgramFolder(g, name), ConfigurationText(g));
+    (void)WriteFileAtomically(InProgramFolder(g, name), ConfigurationText(g));
 }
 
 bool WriteConfiguration(Game& g, const std::string& name) {
     const std::string path = InProgramFolder(g, name);
-    if (WriteFileAtomically(path, ConfigurationText(g))) return true;
-    g.View->Show("Configuration file:\r\n" + path + "\r\ncould not be accessed, options not saved", "vbok+vbcritical");
+    const WriteResult written = WriteFileAtomically(path, ConfigurationText(g));
+    if (written.Ok()) return true;
+    g.View->Show("Configuration file:\r\n" + path + "\r\n" + written.Problem("could not be accessed") + ", options not saved",
+                 "vbok+vbcritical");
     return false;
 }
 

@@ -167,7 +167,7 @@ std::string RefusalText(const Position& g, const MoveCheck& check, const std::st
     switch (check.Why) {
         case Refusal::None: return "";
         case Refusal::OffTheBoard: return text + " leaves the board";
-        case Refusal::GameOver: return text + ": the game is over";
+        case Refusal::GameOver: return "the game is over, the board takes no move";
         case Refusal::NotYourPiece: return text + ": " + at + " holds no piece of the side to move";
         case Refusal::NotStraight: return text + " runs along neither a rank nor a file";
         case Refusal::PassesOver: return text + " passes over " + at;
@@ -355,9 +355,39 @@ bool IsTurnNumber(const std::string& word) {
     return word.size() > 1 && word.back() == '.' && AllDigits(std::string_view(word).substr(0, word.size() - 1));
 }
 
-// Tags and comments are held in brackets; the moves stand between them.
-RecordParts SplitRecord(const std::string& text) {
-    RecordParts parts;
+// Reads a part of a turn's address at `at`: digits, a lower-case letter when
+// `lettered` (the first or second move of the turn), and a dot.
+bool ReadAddressPart(std::string_view word, std::size_t& at, bool lettered) {
+    const std::size_t digits = at;
+    while (at < word.size() && word[at] >= '0' && word[at] <= '9') ++at;
+    if (at == digits) return false;
+    if (lettered && (at == word.size() || word[at] < 'a' || word[at] > 'z')) return false;
+    at += lettered;
+    return at < word.size() && word[at++] == '.';
+}
+
+// The address of a turn of a variation, as OpenTafl writes it: the move it
+// branches from, then for each level the variation's number and the turn and
+// move within it ("7a.1.1a.", "3a.2.1a.1.2a.").
+bool IsVariationTurn(std::string_view word) {
+    std::size_t at = 0;
+    if (!ReadAddressPart(word, at, true)) return false;
+    int levels = 0;
+    for (; at < word.size(); ++levels)
+        if (!ReadAddressPart(word, at, false) || !ReadAddressPart(word, at, true)) return false;
+    return levels > 0;
+}
+
+// The line of the text on which the character at `at` stands, from 1.
+int LineAt(const std::string& text, std::size_t at) {
+    return 1 + static_cast<int>(std::count(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(at), '\n'));
+}
+
+// Tags and comments are held in brackets; the moves stand between them. The
+// moves of a variation are skipped up to the next turn of the main line:
+// the main line is the game, as OpenTafl reads it. False, with the reason,
+// when a bracket is never closed (it would hide the rest of the record).
+bool SplitRecord(const std::string& text, RecordParts& parts, std::string& reason) {
     std::string outside;
     for (std::size_t i = 0; i < text.size();) {
         if (text[i] != '[') {
@@ -365,18 +395,27 @@ RecordParts SplitRecord(const std::string& text) {
             continue;
         }
         const std::size_t close = text.find(']', i);
-        const std::string tag = text.substr(i + 1, close == std::string::npos ? close : close - i - 1);
+        if (close == std::string::npos) {
+            reason = "the bracket opened on line " + std::to_string(LineAt(text, i)) + " is never closed";
+            return false;
+        }
+        const std::string tag = text.substr(i + 1, close - i - 1);
         if (tag.rfind("rules:", 0) == 0) parts.Rules = tag.substr(6);
         if (tag.rfind("position:", 0) == 0) parts.Position = tag.substr(9);
         outside += ' ';
-        i = close == std::string::npos ? text.size() : close + 1;
+        i = close + 1;
     }
     std::istringstream words(outside);
-    for (std::string word; words >> word && word != "---";) {   // "---": a side resigns
-        if (word.find(':') != std::string::npos) parts.Rules += " " + word;
-        else if (!IsTurnNumber(word)) parts.Moves.push_back(word);
+    bool inVariation = false;
+    for (std::string word; words >> word;) {
+        if (IsVariationTurn(word)) inVariation = true;
+        else if (IsTurnNumber(word)) inVariation = false;
+        else if (inVariation) continue;
+        else if (word == "---") break;   // a side resigns
+        else if (word.find(':') != std::string::npos) parts.Rules += " " + word;
+        else parts.Moves.push_back(word);
     }
-    return parts;
+    return true;
 }
 
 // The start position and the side that starts, from the rules record and
@@ -452,6 +491,9 @@ GameRecordResult MakeGameRecord(const std::vector<std::string>& layoutLines) {
     std::string reason;
     LoggedPosition first, before, after;
     if (!ReadPosition(g, layoutLines.front(), first, reason)) return Refuse(1, reason);
+    SetBoard(g, first);
+    // The start is written as OTN, which the readers must take back.
+    if (const std::string refusal = OtnRefusal(g); !refusal.empty()) return Refuse(1, refusal);
     before = first;
     MoveNumbers numbers;
     for (std::size_t i = 1; i < layoutLines.size(); ++i) {
@@ -478,7 +520,8 @@ GameRecordResult MakeGameRecord(const std::vector<std::string>& layoutLines) {
 
 OtnGameResult ReadOtnGame(const std::string& text) {
     OtnGameResult result;
-    const RecordParts parts = SplitRecord(text);
+    RecordParts parts;
+    if (!SplitRecord(text, parts, result.Reason)) return result;
     std::string start;
     bool attackersFirst = true;
     if (!ReadRules(parts, start, attackersFirst, result.Reason)) return result;

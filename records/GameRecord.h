@@ -33,16 +33,18 @@ struct GameRecordResult {
 };
 
 // layoutLines: the positions as layout lines, oldest first; all must be of
-// the first one's size.
+// the first one's size, and the first one a position OTN can hold (OtnRefusal).
 GameRecordResult MakeGameRecord(const std::vector<std::string>& layoutLines);
 
 // Reading: the record's tags and comments stand in brackets; the rules
 // record (a [rules:...] tag or a line of its own) gives the start ("start:",
 // or "starti:" listing the top rank first; a [position:...] tag replaces it)
 // and the side that starts ("atkf:n" the defenders); its other fields are
-// left to this program's rules. Turn numbers are skipped, "---" (a side
-// resigns) ends the moves, and each move must be one the rules allow to the
-// side whose turn it is (RefuseWrittenMove), none after the game has ended.
+// left to this program's rules. Turn numbers are skipped, and so are the
+// variations (turns addressed "7a.1.1a." up to the next turn of the main
+// line); "---" (a side resigns) ends the moves, and each move must be one the
+// rules allow to the side whose turn it is (RefuseWrittenMove), none after the
+// game has ended. A bracket that is never closed refuses the whole record.
 struct OtnGameResult {
     bool Ok = false;                      // every move was read and allowed
     std::vector<std::string> Positions;   // layout lines: the start, then the position after each allowed move

@@ -7,7 +7,7 @@
 
 namespace jv {
 
-bool WriteLayoutFile(const Game& g, const std::string& path) {
+WriteResult WriteLayoutFile(const Game& g, const std::string& path) {
     return WriteFileAtomically(path, LayoutLine(g) + "\r\n");
 }
 

@@ -3,13 +3,14 @@
 #include <string_view>
 
 #include "core/Game.h"
+#include "records/WriteResult.h"
 #include "records/ReadResult.h"
 
 namespace jv {
 
 // Writes the layout line of the board as it stands, with CR LF, replacing the
-// file through a temporary file. False when it cannot be written.
-bool WriteLayoutFile(const Game& g, const std::string& path);
+// file through a temporary file (WriteFileAtomically).
+WriteResult WriteLayoutFile(const Game& g, const std::string& path);
 
 // Reads the first line of a layout file onto a fresh board and sets every
 // SquareWeight to 10. Refused, the game left as it was: the file cannot be

@@ -144,6 +144,12 @@ std::string OtnPosition(const Game& g) {
     return out;
 }
 
+std::string OtnRefusal(const Game& g) {
+    std::string line, reason;
+    OtnToLayoutLine(OtnPosition(g), line, reason);
+    return reason;
+}
+
 bool OtnToLayoutLine(std::string_view otn, std::string& line, std::string& reason, bool topRankFirst) {
     std::string_view text = TrimBlanks(otn);
     if (!text.empty() && text.front() == '/') text.remove_prefix(1);

@@ -17,6 +17,12 @@ namespace jv {
 // King on the board is written without one.
 std::string OtnPosition(const Game& g);
 
+// Why the board's OTN would be refused when read back ("" when it would be
+// read): a board that is not square, no King on it (none in the layout, or
+// his square holding another piece), the King on a corner. Such a position is
+// never written: a file or record that no reader takes back helps no one.
+std::string OtnRefusal(const Game& g);
+
 // Reads an OTN position (blanks around it, and the outer "/" signs, may be
 // left out) into a layout line; topRankFirst reads the inverted form that
 // lists the top rank first. False, with the reason in words, for a position

@@ -23,8 +23,10 @@ bool IsOtnFileName(const std::string& name) { return EndsWith(name, ".otn"); }
 
 bool IsOtnGameFileName(const std::string& name) { return EndsWith(name, ".otg"); }
 
-bool WriteOtnFile(const Game& g, const std::string& path) {
-    return g.BoardWidth == g.BoardHeight && WriteFileAtomically(path, OtnPosition(g) + "\r\n");
+WriteResult WriteOtnFile(const Game& g, const std::string& path) {
+    const std::string refusal = OtnRefusal(g);
+    if (!refusal.empty()) return {false, "cannot hold this position: " + refusal};
+    return WriteFileAtomically(path, OtnPosition(g) + "\r\n");
 }
 
 }  // namespace jv

@@ -2,6 +2,7 @@
 #include <string>
 
 #include "core/Game.h"
+#include "records/WriteResult.h"
 
 namespace jv {
 
@@ -19,8 +20,8 @@ bool IsOtnFileName(const std::string& name);
 bool IsOtnGameFileName(const std::string& name);
 
 // Writes the OTN of the board and CR LF, replacing the file through a
-// temporary file. False when it cannot be written, or the board is not
-// square (an OpenTafl board is).
-bool WriteOtnFile(const Game& g, const std::string& path);
+// temporary file (WriteFileAtomically). Refused, writing nothing, when the
+// position is one the OTN reader would refuse (OtnRefusal).
+WriteResult WriteOtnFile(const Game& g, const std::string& path);
 
 }  // namespace jv

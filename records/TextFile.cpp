@@ -1,10 +1,15 @@
 #include "records/TextFile.h"
 
-#include <cstdio>
+#include <cerrno>
+#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <sys/stat.h>
 #include <system_error>
+#include <unistd.h>
+
+#include "records/FileTarget.h"
 
 namespace jv {
 
@@ -27,6 +32,36 @@ namespace {
 bool IsRegularFile(const std::string& path) {
     std::error_code ec;
     return std::filesystem::is_regular_file(path, ec);
+}
+// Writes all of the content; false when the system takes only part of it.
+bool WriteAll(int fd, std::string_view content) {
+    while (!content.empty()) {
+        const ssize_t written = ::write(fd, content.data(), content.size());
+        if (written < 0 && errno == EINTR) continue;
+        if (written <= 0) return false;
+        content.remove_prefix(static_cast<std::size_t>(written));
+    }
+    return true;
+}
+// Creates the temporary file beside the target: a new file as any other
+// (the user's file-creation mask applies), the replacement of an existing one
+// with its permissions, owner and group. -1 when it cannot be made so.
+int CreateTemporary(const std::string& temporary, const FileTarget& target) {
+    constexpr int Flags = O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC;
+    int fd = ::open(temporary.c_str(), Flags, 0666);
+    if (fd < 0 && errno == EEXIST) {   // left behind by a write that was cut short
+        ::unlink(temporary.c_str());
+        fd = ::open(temporary.c_str(), Flags, 0666);
+    }
+    if (fd < 0 || !target.Exists) return fd;
+    // Only the superuser may give a file to someone else; anyone else owns
+    // what they write, so that refusal is no failure. The owner goes first,
+    // as changing it clears the set-id bits that the permissions then restore.
+    const bool owned = ::fchown(fd, target.Owner, target.Group) == 0 || errno == EPERM;
+    if (owned && ::fchmod(fd, target.Permissions) == 0) return fd;
+    ::close(fd);
+    ::unlink(temporary.c_str());
+    return -1;
 }
 // A line as read: a CR at its end belongs to the line end.
 std::string LineOf(std::string_view text) {
@@ -76,34 +111,30 @@ bool ReadLines(const std::string& path, std::vector<std::string>& lines) {
     return true;
 }
 
-bool WriteFileAtomically(const std::string& path, const std::string& content) {
-    const std::string temporary = path + ".tmp";
-    {
-        std::ofstream out(temporary, std::ios::binary | std::ios::trunc);
-        if (!out) return false;
-        out.write(content.data(), static_cast<std::streamsize>(content.size()));
-        out.flush();
-        if (!out) {
-            out.close();
-            std::remove(temporary.c_str());
-            return false;
-        }
+WriteResult WriteFileAtomically(const std::string& path, const std::string& content) {
+    const FileTarget target = FindFileTarget(path);
+    if (target.Refused()) return {false, target.Refusal};
+    const std::string temporary = target.Path + ".tmp";
+    const int fd = CreateTemporary(temporary, target);
+    if (fd < 0) return {};
+    // On disk before the rename: a crash in between leaves the old file, never an empty one.
+    const bool whole = WriteAll(fd, content) && ::fsync(fd) == 0;
+    if (::close(fd) != 0 || !whole || ::rename(temporary.c_str(), target.Path.c_str()) != 0) {
+        ::unlink(temporary.c_str());
+        return {};
     }
-    std::error_code ec;
-    std::filesystem::rename(temporary, path, ec);
-    if (ec) {
-        std::remove(temporary.c_str());
-        return false;
-    }
-    return true;
+    return {true, ""};
 }
 
-bool AppendLine(const std::string& path, const std::string& line) {
-    std::ofstream out(path, std::ios::binary | std::ios::app);
-    if (!out) return false;
-    out << line << "\r\n";
-    out.flush();
-    return static_cast<bool>(out);
+WriteResult AppendLine(const std::string& path, const std::string& line) {
+    const FileTarget target = FindFileTarget(path);
+    if (target.Refused()) return {false, target.Refusal};
+    // Should a pipe take the file's place after the look, opening it without
+    // waiting fails at once instead of waiting for a reader.
+    const int fd = ::open(target.Path.c_str(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC | O_NONBLOCK, 0666);
+    if (fd < 0) return {};
+    const bool written = WriteAll(fd, line + "\r\n");
+    return {::close(fd) == 0 && written, ""};
 }
 
 std::string JoinLines(const std::vector<std::string>& lines) {

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "core/Game.h"
+#include "records/WriteResult.h"
 
 namespace jv {
 
@@ -38,12 +39,17 @@ bool ReadFirstLine(const std::string& path, std::string& line);
 // file cannot be opened or read.
 bool ReadLines(const std::string& path, std::vector<std::string>& lines);
 
-// Replaces a file's content through a temporary file and a rename, so the
-// previous content stays whole when the write fails. False on failure.
-bool WriteFileAtomically(const std::string& path, const std::string& content);
+// Replaces a file's content through a temporary file beside it and a rename,
+// so the previous content stays whole when the write fails. A symbolic link
+// is written through: the file it leads to gets the content and the link
+// stays. An existing file keeps its permissions (and, where the system
+// allows, its owner and group). A hard-linked file is replaced under this
+// name only, the other names keeping the previous content.
+WriteResult WriteFileAtomically(const std::string& path, const std::string& content);
 
-// Appends one line and CR LF to a file, creating it. False on failure.
-bool AppendLine(const std::string& path, const std::string& line);
+// Appends one line and CR LF to a file (the file a symbolic link leads to),
+// creating it.
+WriteResult AppendLine(const std::string& path, const std::string& line);
 
 // Lines joined with CR LF after each.
 std::string JoinLines(const std::vector<std::string>& lines);

@@ -52,8 +52,9 @@ void ExportGameRecordCommand(Game& g) {
     name = WithExtension(name, "otg");
     const std::string path = InProgramFolder(g, name);
     if (FileThere(path) && g.View->Show(name + "\r\nOverWrite file?", "vbYesNo+vbquestion") != ButtonYes) return;
-    if (!WriteFileAtomically(path, JoinLines(record.Lines))) {
-        g.View->Show("Game Record File:\r\n" + name + "\r\ncould not be written", "vbcritical+vbok");
+    const WriteResult written = WriteFileAtomically(path, JoinLines(record.Lines));
+    if (!written.Ok()) {
+        g.View->Show("Game Record File:\r\n" + name + "\r\n" + written.Problem("could not be written"), "vbcritical+vbok");
         return;
     }
     g.View->Show("Game record saved to file:\r\n" + name, "vbinformation+vbok");

@@ -109,8 +109,10 @@ void ReportUnreadableLayout(Game& g, const std::string& path, const std::string&
 // could not be (reported).
 bool LoadOtnLayoutLine(Game& g, const std::string& layout) {
     const std::string path = g.ProgramFolder + "otnlayout.txt";
-    if (!WriteFileAtomically(path, layout + "\r\n")) {
-        g.View->Show("Layout File:\r\n" + path + "\r\ncould not be written, the position is not loaded",
+    const WriteResult written = WriteFileAtomically(path, layout + "\r\n");
+    if (!written.Ok()) {
+        g.View->Show("Layout File:\r\n" + path + "\r\n" + written.Problem("could not be written") +
+                         ", the position is not loaded",
                      "vbcritical+vbok");
         return false;
     }
@@ -209,8 +211,10 @@ void SaveCommand(Game& g) {
     if (FileHasLength(path) && g.View->Show(name + "\r\nOverWrite file?", "vbYesNo+vbquestion") != ButtonYes) return;
     // The old file is replaced only once the new one is whole on disk, so a
     // failed write leaves it as it was.
-    if (!(IsOtnFileName(name) ? WriteOtnFile(g, path) : WriteLayoutFile(g, path))) {
-        g.View->Show("Layout File:\r\n" + name + "\r\ncould not be written, game not saved", "vbcritical+vbok");
+    const WriteResult written = IsOtnFileName(name) ? WriteOtnFile(g, path) : WriteLayoutFile(g, path);
+    if (!written.Ok()) {
+        g.View->Show("Layout File:\r\n" + name + "\r\n" + written.Problem("could not be written") + ", game not saved",
+                     "vbcritical+vbok");
         return;
     }
     g.View->Show("Game saved to file:\r\n" + name, "vbinformation+vbok");

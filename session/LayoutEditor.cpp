@@ -58,8 +58,10 @@ void SwitchEditorOff(Game& g) {
             g.KingCol = g.KingRow == row ? col : 0;
         }
     const std::string path = g.ProgramFolder + "temporarylayout.txt";
-    if (!WriteLayoutFile(g, path)) {
-        g.View->Show("Layout File:\r\n" + path + "\r\ncould not be written, the editor stays open",
+    const WriteResult written = WriteLayoutFile(g, path);
+    if (!written.Ok()) {
+        g.View->Show("Layout File:\r\n" + path + "\r\n" + written.Problem("could not be written") +
+                         ", the editor stays open",
                      "vbcritical+vbok");
         return;
     }

@@ -68,8 +68,11 @@ void ReplayCommand(Game& g) {
 
     // The game as it stands comes back after the replay.
     const std::string saved = g.ProgramFolder + "templayout.txt";
-    if (!WriteLayoutFile(g, saved)) {
-        g.View->Show("Layout File:\r\n" + saved + "\r\ncould not be written, replay not started", "vbcritical+vbok");
+    const WriteResult written = WriteLayoutFile(g, saved);
+    if (!written.Ok()) {
+        g.View->Show("Layout File:\r\n" + saved + "\r\n" + written.Problem("could not be written") +
+                         ", replay not started",
+                     "vbcritical+vbok");
         return;
     }
 

@@ -132,7 +132,7 @@ void ReadPlayers(Game& g) {
 }
 
 bool WritePlayers(const Game& g) {
-    return WriteFileAtomically(InProgramFolder(g, PlayersFile), PlayersText(g.Players));
+    return WriteFileAtomically(InProgramFolder(g, PlayersFile), PlayersText(g.Players)).Ok();
 }
 
 }  // namespace jv

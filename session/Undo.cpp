@@ -14,8 +14,10 @@ namespace {
 // goes on: losing a log line must never stop a game.
 void AppendToMovesLog(Game& g, const std::string& record) {
     const std::string line = Format(g.BoardWidth, "00") + Format(g.BoardHeight, "00") + record;
-    if (AppendLine(InProgramFolder(g, g.MovesLogFile), line)) return;
-    g.View->Show("Moves Log File:\r\n" + g.MovesLogFile + "\r\ncould not be written, this move is not logged",
+    const WriteResult written = AppendLine(InProgramFolder(g, g.MovesLogFile), line);
+    if (written.Ok()) return;
+    g.View->Show("Moves Log File:\r\n" + g.MovesLogFile + "\r\n" + written.Problem("could not be written") +
+                     ", this move is not logged",
                  "vbcritical+vbok");
 }
 

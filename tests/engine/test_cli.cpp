@@ -18,11 +18,16 @@ const std::string KingMoved = "05050403HEEEHEEE1EEEEEEEE0EEHEEEH";   // then the
 }  // namespace
 
 TEST(Cli, EachCommandPrintsItsResultOrRefusesWithItsExitCode) {
-    // Each command prints its result and exits 0, or exits 2 when it cannot read its input and 1 on misuse.
+    // Each command prints its result and exits 0, 2 when it cannot read or play its input (saying why), 1 on misuse.
     TestGame t;
     t.CopyData();
     t.WriteFile("small.txt", Small + "\r\n");
     t.WriteFile("game.txt", Small + "\r\n" + Moved + "\r\n" + KingMoved + "\r\n");
+    t.WriteFile("noking.log", "03030000HEHE0EHEH\r\n");
+    t.WriteFile("kingless.txt", "07070000HEE1EEHEEE1EEEEEE0EEE1100011EEE0EEEEEE1EEEHEE1EEH\r\n");
+    t.WriteFile("kingonattacker.txt", "07070104HEE1EEHEEE1EEEEEE0EEE1100011EEE0EEEEEE1EEEHEE1EEH\r\n");
+    t.WriteFile("two.txt", "02020101HHHH\r\n");
+    const std::string soakLogs = "'" + t.Path("soak") + "'";
     t.WriteFile("bad.txt", Small + "\r\n" + Moved + "\r\n" + Small + "\r\n" + KingMoved + "\r\n");
     t.WriteFile("kinghome.txt", "07070104HEE0EEH" + std::string(35, 'E') + "HEEEEEH\r\n");
     t.WriteFile("taken.txt", "07070401HEEEEEHE1EEEEE10EEEEE0EEEEEE1EEEEEEE1EEEEEHEEEEEH\r\n");
@@ -41,27 +46,36 @@ TEST(Cli, EachCommandPrintsItsResultOrRefusesWithItsExitCode) {
         {"from-otn /1tK1t2/2t1T2/7/7/7/7/7/ '" + t.Path("king.txt") + "'", "", 0, {"07070703HEEEEEHEEEEEEEEEEEEEEEEEEEEEEEEEEEEEE1E0EEH10E1EH"}, ""},
         {"otn '" + t.Path("king.txt") + "'", "", 0, {"/1tK1t2/2t1T2/7/7/7/7/7/"}, ""},
         {"otn -", "03050202HEEEH00EEEHEE1H\n", 2, {}, "An OpenTafl board is square: this layout is 3x5\n"},
+        {"otn -", "03030000HEHE0EHEH\n", 2, {}, "No OpenTafl position can be written of this layout: the position has no King\n"},
+        {"record noking.log", "", 2, {}, "Moves Log File:\nnoking.log\nline 1: the position has no King\n"},
         {"record game.txt", "", 0, {"[rules:dim:5 esc:c surf:n atkf:y tfr:i ka:y ks:y cenh: cenhe: start:/5/5/2K2/1t3/5/]", "",
           "1. b4-d4 Kc3-c2"}, ""},
         {"record bad.txt", "", 2, {}, "Moves Log File:\nbad.txt\nline 3: the attackers move twice in a row, where a record has "
                                       "the sides take turns\n"},
         {"replay game.txt", "", 0, {"Step 1 of 3", "    1  2  3  4  5", "B   .  a  .  .  .", "Step 3 of 3", "D   .  .  K  .  ."}, ""},
-        {"play pattern1.txt 'user:0304>0302' 'user:0504>0502' 'user:0104>0105' 'user:0404>0304' 'user:0405>0404' 'defender:0405>0404' "
-         "'attacker:0604>0504' undo 'defender:0403>0303'", "", 0,
+        {"play pattern1.txt 'user:0304>0302' 'user:0504>0502' 'user:0104>0105' 'user:0404>0304' 'user:0405>0404' "
+         "'defender:0405>0404' 'attacker:0604>0504' undo 'defender:0403>0303'", "", 2,
          {"Loaded Layout: pattern1.txt", "  Player1 Move C4 > C2", "  Player1 Move E4 > E2", "  Player 1 captures D2",
-          "REFUSED user:0104>0105: d7 holds no piece of the defenders", "  King Move D4 > C4", "REFUSED user:0405>0404: e4-d4: only the King may stop on the centre",
+          "REFUSED user:0104>0105: d7 holds no piece of the defenders", "  King Move D4 > C4",
+          "REFUSED user:0405>0404: e4-d4: only the King may stop on the centre",
           "REFUSED defender:0405>0404: e4-d4: only the King may stop on the centre", "  Player2 Move F4 > E4",
           "  Player1 Move D3 > C3", "LAYOUT 07070304HEE1EEHEEE1EEEE000EEE1EEE011E0EEEEEEEE1EEEHEE1EEH"}, ""},
         {"play pattern1.txt user:d5-b5xb6 user:d5-b5 attacker:b2-b3 defender:a4-c4 attacker:g4-c4 user:Kd4-d5- "
-         "attacker:d7-b7 user:h1-a1", "", 0,
+         "attacker:d7-b7 user:h1-a1", "", 2,
          {"REFUSED user:d5-b5xb6: d5-b5 takes nothing, not b6", "  Player1 Move C4 > C2",
           "REFUSED attacker:b2-b3: b2 holds no piece of the attackers", "REFUSED defender:a4-c4: a4 holds no piece of the defenders",
-          "REFUSED attacker:g4-c4: g4-c4 passes over f4", "  King Move D4 > C4", "  Player2 Move A4 > A2", "REFUSED user:h1-a1"}, ""},
-        {"play kinghome.txt 'user:0104>0101' 'user:0101>0102'", "", 0,
-         {"MESSAGE [vbhappy+vbok]: King at Home ! / Click Reset to start a new game", "REFUSED user:0101>0102: a7-b7: the game is over"}, ""},
-        {"play taken.txt 'attacker:0602>0402' 'user:0302>0303'", "", 0,
-         {"MESSAGE [vbcritical+vbok]: King Captured ! / Click Reset to start a new game", "REFUSED user:0302>0303"}, ""},
-        {"play pattern1.txt 'attacker:0009>0101'", "", 0, {"REFUSED attacker:0009>0101"}, ""},
+          "REFUSED attacker:g4-c4: g4-c4 passes over f4", "  King Move D4 > C4", "  Player2 Move A4 > A2",
+          "REFUSED user:h1-a1: h1-a1 names a square off the 7x7 board"}, ""},
+        {"play kinghome.txt 'user:0104>0101' 'user:0101>0102'", "", 2,
+         {"MESSAGE [vbhappy+vbok]: King at Home ! / Click Reset to start a new game",
+          "REFUSED user:0101>0102: the game is over, the board takes no move"}, ""},
+        {"play taken.txt 'attacker:0602>0402' 'user:0302>0303'", "", 2,
+         {"MESSAGE [vbcritical+vbok]: King Captured ! / Click Reset to start a new game",
+          "REFUSED user:0302>0303: the game is over, the board takes no move"}, ""},
+        {"play pattern1.txt 'attacker:0009>0101' 'user:9999>0101'", "", 2,
+         {"REFUSED attacker:0009>0101: the square 0009 is off the 7x7 board",
+          "REFUSED user:9999>0101: the square 9999 is off the 7x7 board"}, ""},
+        {"play pattern1.txt 'user:0304>0302' red", "", 0, {"  Player1 Move C4 > C2"}, ""},
         {"play pattern1.txt user:d5b5", "", 1, {}, "?"},
         {"play nothere.txt", "", 2, {"MESSAGE [vbcritical+vbok]: Error reading Layout File: / nothere.txt"}, "?"},
         {"perft pattern1.txt 1", "", 0, {"0304>0303: 1", "total: 24"}, ""},
@@ -72,6 +86,12 @@ TEST(Cli, EachCommandPrintsItsResultOrRefusesWithItsExitCode) {
           "2 games: King captured 0, King at Home 0, King with a free run home 2, no move for the defenders 0, "
           "no move for the attackers 0, move limit 0"}, ""},
         {"selfplay kinghome.txt --games x", "", 1, {}, "?"},
+        {"soak pattern1.txt kingless.txt --moves 10 --log " + soakLogs, "", 2, {},
+         "Layout File:\nkingless.txt\ncannot be played: there is no King on the board\n"},
+        {"soak kingonattacker.txt --log " + soakLogs, "", 2, {},
+         "Layout File:\nkingonattacker.txt\ncannot be played: the King's square A4 holds an attacker\n"},
+        {"soak two.txt --log " + soakLogs, "", 2, {},
+         "Layout File:\ntwo.txt\ncannot be played: the King stands on the corner A1: the game is over before it starts\n"},
     };
     for (const auto& r : rows) {
         const auto result = RunCli(r.args, t.folder.string(), r.input);

@@ -78,7 +78,7 @@ TEST(GameRecord, TheMovesOfALoggedGameAreWrittenInTurnWithTheirCapturesAndReadBa
 }
 
 TEST(GameRecord, AnOpenTaflRecordIsReadAndEachMoveTheRulesRefuseIsReported) {
-    // A record by another program replays under this program's rules, or names the first move they refuse and why.
+    // Another program's record replays its main line (variations skipped) by these rules, or names the first refusal.
     const std::string brandubh = "[rules:dim:7 ks:n cenhe: cenh: start:/3t3/3t3/3T3/ttTKTtt/3T3/3t3/3t3/]\n\n";
     const std::string kingOnC1 = "dim:7 start:/1tK1t2/2t1T2/7/7/7/7/7/\n";
     const struct { std::string record; const char* verdict; } rows[] = {
@@ -100,6 +100,10 @@ TEST(GameRecord, AnOpenTaflRecordIsReadAndEachMoveTheRulesRefuseIsReported) {
         {brandubh + "1. d2-e2++", "move 1 (d2-e2++): d2-e2 does not take the King"},
         {brandubh + "1. d2-e2 c4-c2--", "move 2 (c4-c2--): c4-c2 does not bring the King home"},
         {kingOnC1 + "1. e1-d1 e2-e3", "move 2 (e2-e3): the game ended with move 1"},
+        {brandubh + "1. d2-e2 c4-c5\n[|]\n\n1a.1.1a. d2-c2 c4-c6\n[a variation]\n1a.1.2a. Kd4-h9 ---\n"
+                    "1b.1.1a. ..... d5-e5\n\n2. e2-e3 Kd4-c4-\n2b.1.1a.1.1a. ..... x9\n3. ---", "4 moves"},
+        {brandubh + "1. d2-e2 c4-c5\n[a comment that never ends\n2. e2-e3 Kd4-c4-",
+         "the bracket opened on line 4 is never closed"},
     };
     for (const auto& r : rows) {
         const OtnGameResult read = ReadOtnGame(r.record);

@@ -48,15 +48,15 @@ TEST(LayoutFile, EveryShippedLayoutWritesBackByteForByteAndAFailedWriteKeepsTheO
         TestGame t;
         t.CopyData(name);
         ASSERT_TRUE(ReadLayoutFile(t.g, t.Path(name)).Ok()) << name;
-        ASSERT_TRUE(WriteLayoutFile(t.g, t.Path("copy.txt"))) << name;
+        ASSERT_TRUE(WriteLayoutFile(t.g, t.Path("copy.txt")).Ok()) << name;
         EXPECT_EQ(t.ReadFile("copy.txt"), t.ReadFile(name)) << name;
     }
     TestGame t;
     ASSERT_TRUE(ApplyLayoutLine(t.g, Small).Ok());
-    EXPECT_FALSE(WriteLayoutFile(t.g, t.Path("no-such-folder/layout.txt")));
+    EXPECT_FALSE(WriteLayoutFile(t.g, t.Path("no-such-folder/layout.txt")).Ok());
     const std::string path = t.WriteFile("keep.txt", "previous\r\n");
     std::filesystem::create_directory(path + ".tmp");   // the temporary name is taken
-    EXPECT_FALSE(WriteLayoutFile(t.g, path));
+    EXPECT_FALSE(WriteLayoutFile(t.g, path).Ok());
     EXPECT_EQ(t.ReadFile("keep.txt"), "previous\r\n");
 }
 

@@ -36,7 +36,7 @@ TEST(LoadLayout, AFailedLoadBringsThePreviousLayoutBackOrAnEmptyBoard) {
 }
 
 TEST(LayoutCommands, LoadResetAndSaveAskThenActAndConfirm) {
-    // Load, reset and save ask first, then act and confirm; a save that fails keeps the old file.
+    // Load, reset and save ask first, then act and confirm; a failed save keeps the old file and says why.
     TestGame t;
     Game& g = t.g;
     t.CopyData("patf.txt");
@@ -58,10 +58,11 @@ TEST(LayoutCommands, LoadResetAndSaveAskThenActAndConfirm) {
     t.WriteFile("old.txt", "old\r\n");
     t.WriteFile("keep.txt", "keep\r\n");
     std::filesystem::create_directory(t.Path("keep.txt.tmp"));
+    std::filesystem::create_directory(t.Path("folder.txt"));
     t.view.Clear();
-    t.view.FileChoices = {"opening", "old.txt", "old.txt", "keep.txt"};
-    t.view.Answers = {1, 7, 6, 1, 6};   // every message takes an answer
-    for (int k = 0; k < 4; ++k) SaveCommand(g);
+    t.view.FileChoices = {"opening", "old.txt", "old.txt", "keep.txt", "folder.txt"};
+    t.view.Answers = {1, 7, 6, 1, 6, 1};   // every message takes an answer
+    for (int k = 0; k < 5; ++k) SaveCommand(g);
     EXPECT_EQ(t.ReadFile("opening.txt"), loaded + "\r\n");
     EXPECT_EQ(t.ReadFile("old.txt"), loaded + "\r\n");
     EXPECT_EQ(t.ReadFile("keep.txt"), "keep\r\n");
@@ -70,5 +71,6 @@ TEST(LayoutCommands, LoadResetAndSaveAskThenActAndConfirm) {
                                         "old.txt\r\nOverWrite file? [vbYesNo+vbquestion]",
                                         "Game saved to file:\r\nold.txt [vbinformation+vbok]",
                                         "keep.txt\r\nOverWrite file? [vbYesNo+vbquestion]",
-                                        "Layout File:\r\nkeep.txt\r\ncould not be written, game not saved [vbcritical+vbok]"}));
+                                        "Layout File:\r\nkeep.txt\r\ncould not be written, game not saved [vbcritical+vbok]",
+                                        "Layout File:\r\nfolder.txt\r\nis a folder, not a file, game not saved [vbcritical+vbok]"}));
 }

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "core/Board.h"
+#include "records/GameRecord.h"
 #include "records/LayoutFile.h"
 #include "session/LayoutCommands.h"
 #include "records/Notation.h"
@@ -107,6 +108,29 @@ TEST(Otn, PositionsNoBoardOfTheProgramHoldsAreRefusedWithTheirReason) {
         {"  3/1K1/3 \r\n", ""},
     };
     for (const auto& r : rows) EXPECT_EQ(Refusal(r.otn), r.reason) << r.otn;
+}
+
+TEST(Otn, APositionTheReaderWouldRefuseIsNeverWritten) {
+    // A position whose OTN no reader takes back is neither saved as .otn nor a game record's start, and says why.
+    const struct { const char* layout; const char* refusal; const char* record; } rows[] = {
+        {"03030000HEHE0EHEH", "the position has no King", "line 1: the position has no King"},
+        {"03030202HEHE1EHEH", "the position has no King", "line 1: the position has no King"},
+        {"02020101HHHH", "a piece stands on the corner a2", "line 1: a piece stands on the corner a2"},
+        {"03050202HEEEH00EEEHEE1H", "the position has 3 ranks of 5 squares: an OpenTafl board is square",
+         "line 1: the board is 3x5, where a record holds a square board"},
+        {"03030202HEHE0EHEH", "", "written"},
+    };
+    for (const auto& r : rows) {
+        TestGame t;
+        ASSERT_TRUE(ApplyLayoutLine(t.g, r.layout).Ok()) << r.layout;
+        EXPECT_EQ(OtnRefusal(t.g), r.refusal) << r.layout;
+        const WriteResult written = WriteOtnFile(t.g, t.Path("saved.otn"));
+        EXPECT_EQ(written.Refusal, *r.refusal ? "cannot hold this position: " + std::string(r.refusal) : "") << r.layout;
+        EXPECT_EQ(t.ReadFile("saved.otn").empty(), !written.Ok()) << r.layout;
+        const GameRecordResult record = MakeGameRecord({r.layout});
+        EXPECT_EQ(record.Ok ? "written" : "line " + std::to_string(record.BadLine) + ": " + record.Reason, r.record)
+            << r.layout;
+    }
 }
 
 TEST(OtnFiles, AnOtnFileIsLoadedAndSavedLikeALayout) {
