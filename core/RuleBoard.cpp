@@ -53,7 +53,9 @@ struct Run {
 };
 
 Run RunAround(std::uint32_t taken, int at) {
-    return Run{std::countr_zero(taken >> (at + 1)) + at + 1, std::bit_width(taken & ((1u << at) - 1)) - 1};
+    const int above = std::countr_zero(taken >> (at + 1)) + at + 1;
+    const int below = static_cast<int>(std::bit_width(taken & ((1u << at) - 1))) - 1;
+    return Run{above, below};
 }
 
 }  // namespace
