@@ -7,6 +7,7 @@
 
 #include "core/Chance.h"
 #include "core/Grid.h"
+#include "core/Rules.h"
 #include "core/Square.h"
 
 namespace jv {
@@ -30,8 +31,8 @@ struct ClockReading {
     int Month = 1, Day = 1, Hour = 0, Minute = 0;
 };
 
-// The position: the board, its size, the King's and the centre's squares
-// and the numbering of the squares. Fixed arrays only, so a copy touches no
+// The position: the board, its size, the King's and the centre's squares,
+// the numbering of the squares and the rule set. Fixed arrays only, so a copy touches no
 // heap and can be searched on another thread.
 struct Position {
     Grid<std::int32_t> Board;
@@ -47,6 +48,9 @@ struct Position {
     Grid<int> SquareNumber;
     std::array<int, MaxBoardSide * MaxBoardSide + 1> SquareCol{};
     std::array<int, MaxBoardSide * MaxBoardSide + 1> SquareRow{};
+
+    // The rule set the game is played under.
+    Rules GameRules = Rules::Classic();
 };
 
 // The analysis of the position, rebuilt by AnalysePosition.

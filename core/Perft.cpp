@@ -21,13 +21,13 @@ int ListingOrder(const Move& m) {
 
 }  // namespace
 
-std::uint64_t Perft(const Position& g, int depth, int side, const Rules& rules) {
-    return RuleBoard(g, side, rules).Perft(depth);
+std::uint64_t Perft(const Position& g, int depth, int side) {
+    return RuleBoard(g, side).Perft(depth);
 }
 
-std::vector<PerftLine> PerftDivide(const Position& g, int depth, int side, const Rules& rules) {
+std::vector<PerftLine> PerftDivide(const Position& g, int depth, int side) {
     std::vector<PerftLine> lines;
-    RuleBoard board(g, side, rules);
+    RuleBoard board(g, side);
     if (depth <= 0 || board.State() != GameState::GoesOn) return lines;
     BoardMove moves[MaxMoves];
     const int n = board.Generate(moves);

@@ -3,11 +3,10 @@
 #include <vector>
 
 #include "core/Game.h"
-#include "core/Rules.h"
 
 namespace jv {
 
-// Counting the move sequences of a position, as chess programs do, under a
+// Counting the move sequences of a position, as chess programs do, under its
 // rule set, on the rule board: a count is the number of sequences of exactly
 // depth moves, the sides alternating; a line that ends early (the King home
 // or taken) adds nothing.
@@ -18,11 +17,11 @@ struct PerftLine {
 };
 
 // side: DefenderCode or AttackerCode, the side that moves first.
-std::uint64_t Perft(const Position& g, int depth, int side, const Rules& rules = Rules::Classic());
+std::uint64_t Perft(const Position& g, int depth, int side);
 
 // The count split by the first move, one line per move of the side to move,
 // in the order the moves are found (squares column by column, directions up,
 // down, left, right, nearest square first). Empty for depth 0.
-std::vector<PerftLine> PerftDivide(const Position& g, int depth, int side, const Rules& rules = Rules::Classic());
+std::vector<PerftLine> PerftDivide(const Position& g, int depth, int side);
 
 }  // namespace jv

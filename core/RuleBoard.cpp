@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <bit>
 #include <bitset>
+#include <cstdlib>
 
 #include "core/Board.h"
 
@@ -63,8 +64,8 @@ Run RunAround(std::uint32_t taken, int at) {
 std::uint64_t RuleBoard::PieceKey(int piece, int cell) { return Keys().Piece[piece][cell]; }
 std::uint64_t RuleBoard::SideKey() { return Keys().Side; }
 
-RuleBoard::RuleBoard(const Position& g, int side, const Rules& rules)
-    : rules_(rules), width_(g.BoardWidth), height_(g.BoardHeight), centre_(CellOf(g.CentreCol, g.CentreRow)),
+RuleBoard::RuleBoard(const Position& g, int side)
+    : rules_(g.GameRules), width_(g.BoardWidth), height_(g.BoardHeight), centre_(CellOf(g.CentreCol, g.CentreRow)),
       side_(side) {
     cells_.fill(CellWall);
     rowTaken_.fill(0xffff);
@@ -75,13 +76,15 @@ RuleBoard::RuleBoard(const Position& g, int side, const Rules& rules)
     hostile_[0][CellDefender] = true;
     hostile_[0][CellKing] = rules_.KingArmed;
     hostile_[0][CellCorner] = hostile_[1][CellCorner] = rules_.CornersHostile;
+    if (rules_.ThroneHostile) throne_ = centre_;
+    const bool corners = rules_.KingEscape == Escape::Corners;
     for (int col = 1; col <= width_; ++col)
         for (int row = 1; row <= height_; ++row) {
             const int cell = CellOf(col, row);
             const int code = g.Board(col, row);
             const bool king = col == g.KingCol && row == g.KingRow && code == DefenderCode;
             std::int8_t piece = CellEmpty;
-            if (IsCorner(g, col, row)) piece = king ? CellKing : CellCorner;
+            if (corners && IsCorner(g, col, row)) piece = king ? CellKing : CellCorner;
             else if (king) piece = CellKing;
             else if (code == DefenderCode) piece = CellDefender;
             else if (code == AttackerCode) piece = CellAttacker;
@@ -90,7 +93,7 @@ RuleBoard::RuleBoard(const Position& g, int side, const Rules& rules)
                 rowTaken_[row] &= ~(1u << col);
                 colTaken_[col] &= ~(1u << row);
             }
-            if (cell == centre_ && rules_.CentreForKingOnly) {
+            if (cell == centre_ && rules_.CentreForKingOnly && !(corners && IsCorner(g, col, row))) {
                 rowKingOnly_[row] |= 1u << col;
                 colKingOnly_[col] |= 1u << row;
             }
@@ -106,7 +109,7 @@ RuleBoard::RuleBoard(const Position& g, int side, const Rules& rules)
             }
             if (IsPiece(piece)) key_ ^= PieceKey(piece, cell);
         }
-    if (king_ >= 0 && IsCorner(g, ColOf(king_), RowOf(king_))) state_ = GameState::KingHome;
+    if (king_ >= 0 && Escaped(king_)) state_ = GameState::KingHome;
     if (side_ == AttackerCode) key_ ^= SideKey();
 }
 
@@ -241,6 +244,32 @@ void RuleBoard::ForEachTaken(int cell, Take take) const {
         if (victim != king_) take(victim);
         else if (rules_.SandwichedKingEndsCaptures) return;
     }
+    if (rules_.Shieldwall) ForEachWallTaken(cell, take);
+}
+
+// The shieldwalls the piece that has just moved to `at` on the edge closes:
+// along the edge each way, a row of two or more enemies that ends on one of
+// the mover's pieces or a hostile corner, every one of them faced from
+// inside the board by one of the mover's pieces. The King in such a row
+// stands, the others are taken.
+template <typename Take>
+void RuleBoard::ForEachWallTaken(int at, Take take) const {
+    const int col = ColOf(at), row = RowOf(at);
+    const int inward = col == 1 ? 1 : col == width_ ? -1 : row == 1 ? CellStride : row == height_ ? -CellStride : 0;
+    if (inward == 0) return;
+    const int mover = cells_[at] == CellAttacker ? CellAttacker : CellDefender;
+    const int along = inward == 1 || inward == -1 ? CellStride : 1;
+    const auto mine = [&](int c) { return cells_[c] == mover || (mover == CellDefender && cells_[c] == CellKing && rules_.KingArmed); };
+    const auto enemy = [&](int c) { return IsPiece(cells_[c]) && !mine(c) && !(mover == CellAttacker && cells_[c] == CellAttacker); };
+    for (int step : {along, -along}) {
+        int end = at + step, length = 0;
+        bool faced = true;
+        for (; enemy(end); end += step, ++length) faced = faced && mine(end + inward);
+        const bool bracketed = mine(end) || (cells_[end] == CellCorner && rules_.CornersHostile);
+        if (length < 2 || !faced || !bracketed) continue;
+        for (int c = at + step; c != end; c += step)
+            if (c != king_) take(c);
+    }
 }
 
 int RuleBoard::TakenBy(int cell, std::uint8_t* taken) const {
@@ -278,10 +307,9 @@ void RuleBoard::Make(BoardMove m, MoveUndo& undo) {
     Clear(m.From);
     side_ ^= 1;
     if (piece == CellKing) {
-        const bool home = cells_[m.To] == CellCorner;
         Place(m.To, CellKing);
         king_ = m.To;
-        if (home) {
+        if (Escaped(m.To)) {
             state_ = GameState::KingHome;
             return;
         }
@@ -290,12 +318,15 @@ void RuleBoard::Make(BoardMove m, MoveUndo& undo) {
         const int list = ListOf(piece);
         pieces_[list][slot_[m.From]] = m.To;
         slot_[m.To] = slot_[m.From];
-        if (piece == CellAttacker && KingSurrounded()) {
+        if (piece == CellAttacker && KingTakenBy(m.To)) {
             state_ = GameState::KingTaken;
             if (rules_.KingCaptureIsWholeMove) return;
         }
     }
     Capture(m.To, undo);
+    if (state_ != GameState::GoesOn) return;
+    if (piece == CellAttacker ? rules_.Encirclement && DefendersEncircled() : rules_.ExitFort && KingInFort())
+        state_ = piece == CellAttacker ? GameState::DefendersEncircled : GameState::KingInFort;
 }
 
 void RuleBoard::Unmake(BoardMove m, const MoveUndo& undo) {
@@ -313,8 +344,11 @@ void RuleBoard::Unmake(BoardMove m, const MoveUndo& undo) {
     Place(m.From, piece);
     if (piece == CellKing) {
         king_ = m.From;
-        if (state_ == GameState::KingHome && undo.State != GameState::KingHome) Place(m.To, CellCorner);
-        else Clear(m.To);
+        // Only the King enters a corner, and his move there ends the game.
+        if (state_ == GameState::KingHome && undo.State != GameState::KingHome && rules_.KingEscape == Escape::Corners)
+            Place(m.To, CellCorner);
+        else
+            Clear(m.To);
     } else {
         Clear(m.To);
         pieces_[ListOf(piece)][slot_[m.To]] = m.From;
@@ -328,14 +362,17 @@ void RuleBoard::Unmake(BoardMove m, const MoveUndo& undo) {
 int RuleBoard::KingRoutes(std::array<bool, CellCount>* lines) const {
     if (king_ < 0) return 0;
     const int col = ColOf(king_), row = RowOf(king_);
-    if (!lines)
+    if (!lines && rules_.KingEscape == Escape::Corners)
         return RunAround(rowTaken_[row], col).EndsOn(rowCorners_[row]) +
                RunAround(colTaken_[col], row).EndsOn(colCorners_[col]);
     int routes = 0;
     for (int step : CellSteps) {
         int to = king_ + step;
         while (cells_[to] == CellEmpty) to += step;
-        if (cells_[to] != CellCorner) continue;
+        // On the edge escape the line's last empty square is on the edge.
+        const bool route = rules_.KingEscape == Escape::Corners ? cells_[to] == CellCorner
+                                                               : cells_[to] == CellWall && to != king_ + step;
+        if (!route) continue;
         ++routes;
         if (lines)
             for (int c = king_ + step; c != to; c += step) (*lines)[c] = true;
@@ -348,22 +385,113 @@ bool RuleBoard::KingMoveHome(BoardMove& move) const {
     for (int step : CellSteps) {
         int to = king_ + step;
         while (cells_[to] == CellEmpty) to += step;
-        if (cells_[to] != CellCorner) continue;
+        if (rules_.KingEscape == Escape::Edges && cells_[to] == CellWall && to != king_ + step) to -= step;
+        else if (cells_[to] != CellCorner) continue;
         move = BoardMove{static_cast<std::uint8_t>(king_), static_cast<std::uint8_t>(to)};
         return true;
     }
     return false;
 }
 
+bool RuleBoard::OnEdge(int cell) const {
+    const int col = ColOf(cell), row = RowOf(cell);
+    return col == 1 || col == width_ || row == 1 || row == height_;
+}
+
+// The King on the square has escaped: on a corner, or on the edge.
+bool RuleBoard::Escaped(int cell) const {
+    if (rules_.KingEscape == Escape::Edges) return OnEdge(cell);
+    const int col = ColOf(cell), row = RowOf(cell);
+    return (col == 1 || col == width_) && (row == 1 || row == height_);
+}
+
+// A side of the King closed against him: an attacker, a hostile empty
+// corner or a hostile empty throne.
+bool RuleBoard::ClosesOnKing(int cell) const {
+    const int piece = cells_[cell];
+    return piece == CellAttacker || (piece == CellCorner && rules_.CornersHostile) ||
+           (cell == throne_ && piece == CellEmpty);
+}
+
 bool RuleBoard::KingSurrounded() const {
     if (king_ < 0) return false;
     int closed = 0, edges = 0;
     for (int step : CellSteps) {
-        const int cell = cells_[king_ + step];
-        if (cell == CellAttacker || (cell == CellCorner && rules_.CornersHostile)) ++closed;
-        else if (cell == CellWall) ++edges;
+        if (ClosesOnKing(king_ + step)) ++closed;
+        else if (cells_[king_ + step] == CellWall) ++edges;
     }
-    return closed == 4 || (rules_.KingTakenAgainstEdge && edges == 1 && closed == 3);
+    const bool againstTheEdge = rules_.KingTaken == KingCapture::FourOrThreeAgainstTheEdge && edges == 1 && closed == 3;
+    return closed == 4 || againstTheEdge;
+}
+
+// True when the attacker that has just moved to `at` takes the King: under
+// the classic rules any attacker move that leaves him surrounded does; else
+// the mover must stand beside him and close his last side, or, away from the
+// throne where two take him, sandwich him against an attacker or a hostile
+// square.
+bool RuleBoard::KingTakenBy(int at) const {
+    if (king_ < 0) return false;
+    if (rules_.KingTaken == KingCapture::FourOrThreeAgainstTheEdge) return KingSurrounded();
+    int step = 0;
+    for (int s : CellSteps)
+        if (at + s == king_) step = s;
+    if (step == 0) return false;
+    const bool nearThrone = king_ == centre_ || std::abs(king_ - centre_) == 1 || std::abs(king_ - centre_) == CellStride;
+    if (rules_.KingTaken == KingCapture::FourNearTheThroneElseTwo && !nearThrone) return ClosesOnKing(king_ + step);
+    return KingSurrounded();
+}
+
+// The King on the edge, free to move, where the squares he can reach hold
+// no attacker and border only on defenders that no attacker can take: each
+// has, along each line, a side that is the edge, a defender, the King or
+// one of those squares.
+bool RuleBoard::KingInFort() const {
+    if (king_ < 0 || !OnEdge(king_)) return false;
+    std::bitset<CellCount> inside;
+    std::uint8_t todo[CellCount];
+    int count = 0;
+    inside[king_] = true;
+    todo[count++] = static_cast<std::uint8_t>(king_);
+    std::bitset<CellCount> walls;
+    while (count > 0) {
+        const int cell = todo[--count];
+        for (int step : CellSteps) {
+            const int next = cell + step, piece = cells_[next];
+            if (piece == CellAttacker) return false;
+            if (piece == CellDefender) walls[next] = true;
+            if (piece != CellEmpty || inside[next]) continue;
+            inside[next] = true;
+            todo[count++] = static_cast<std::uint8_t>(next);
+        }
+    }
+    if (inside.count() == 1) return false;   // the King cannot move
+    const auto safe = [&](int cell) { return cells_[cell] == CellWall || cells_[cell] == CellDefender || inside[cell]; };
+    for (int cell = 0; cell < CellCount; ++cell)
+        if (walls[cell] && ((!safe(cell - 1) && !safe(cell + 1)) || (!safe(cell - CellStride) && !safe(cell + CellStride))))
+            return false;
+    return true;
+}
+
+// No defender, the King among them, can reach the edge over squares that
+// hold no attacker.
+bool RuleBoard::DefendersEncircled() const {
+    std::bitset<CellCount> reached;
+    std::uint8_t todo[CellCount];
+    int count = 0;
+    const auto reach = [&](int cell) {
+        if (reached[cell]) return;
+        reached[cell] = true;
+        todo[count++] = static_cast<std::uint8_t>(cell);
+    };
+    if (king_ >= 0) reach(king_);
+    for (int i = 0; i < pieceCount_[0]; ++i) reach(pieces_[0][i]);
+    while (count > 0) {
+        const int cell = todo[--count];
+        if (OnEdge(cell)) return false;
+        for (int step : CellSteps)
+            if (cells_[cell + step] != CellAttacker && cells_[cell + step] != CellWall) reach(cell + step);
+    }
+    return true;
 }
 
 std::uint64_t RuleBoard::Perft(int depth) {
@@ -412,8 +540,8 @@ void RuleBoard::WriteTo(Position& g) const {
     g.KingRow = RowOf(king_);
 }
 
-bool IsLegalMove(const Position& g, int side, const Move& m, const Rules& rules) {
-    return RuleBoard(g, side, rules).Allows(m);
+bool IsLegalMove(const Position& g, int side, const Move& m) {
+    return RuleBoard(g, side).Allows(m);
 }
 
 }  // namespace jv

@@ -44,12 +44,15 @@ struct BoardMove {
     bool operator==(const BoardMove&) const = default;
 };
 
-// How the game stands after the last move.
-enum class GameState : std::uint8_t { GoesOn, KingHome, KingTaken };
+// How the game stands after the last move: it goes on, the King has escaped
+// (home on a corner, or on the edge), the King is taken, the King stands in
+// an exit fort, or the attackers have closed every defender in.
+enum class GameState : std::uint8_t { GoesOn, KingHome, KingTaken, KingInFort, DefendersEncircled };
 
 // What Make changed, for Unmake, and what the move took.
 struct MoveUndo {
-    static constexpr int MaxTaken = 4;
+    // Four sandwiches and two shieldwalls along an edge at the most.
+    static constexpr int MaxTaken = 4 + 2 * MaxBoardSide;
     std::uint8_t Taken[MaxTaken] = {};   // the cells of the pieces taken, in the order they were taken
     std::uint8_t Slots[MaxTaken] = {};   // each one's place in its piece list
     std::uint8_t Count = 0;
@@ -78,8 +81,9 @@ struct MoveCheck {
 
 class RuleBoard {
 public:
-    // The game's position with side (AttackerCode or DefenderCode) to move.
-    RuleBoard(const Position& g, int side, const Rules& rules = Rules::Classic());
+    // The game's position with side (AttackerCode or DefenderCode) to move,
+    // under the position's rule set.
+    RuleBoard(const Position& g, int side);
 
     const Rules& RuleSet() const { return rules_; }
     int SideToMove() const { return side_; }
@@ -124,15 +128,18 @@ public:
     // take, in the order it takes them; the board is left as it is.
     int TakenBy(int cell, std::uint8_t* taken) const;
 
-    // The King's moves onto a corner now (0 to 4); when lines is given, the
-    // cells of those lines (the empty squares between him and the corner)
-    // are marked in it.
+    // The King's moves that escape now (0 to 4): onto a corner, or onto the
+    // edge; when lines is given, the cells of those lines (the empty squares
+    // between him and the square he escapes on) are marked in it.
     int KingRoutes(std::array<bool, CellCount>* lines = nullptr) const;
-    // The King's first move onto a corner, in the order moves are listed;
-    // false when he has none.
+    // The King's first escaping move, in the order moves are listed; false
+    // when he has none.
     bool KingMoveHome(BoardMove& move) const;
-    // The King is surrounded as the rule set takes him.
+    // The King stands with every side closed as the rule set takes him: by
+    // attackers, hostile squares and, under the classic rules, the edge.
     bool KingSurrounded() const;
+    // True when the side to move has a move.
+    bool HasMove() const { return CountMoves() > 0; }
 
     // The number of move sequences of exactly depth moves; a line that ends
     // early (the King home or taken) adds nothing.
@@ -151,7 +158,18 @@ private:
     static std::uint64_t PieceKey(int piece, int cell);
     static std::uint64_t SideKey();
     bool Mine(int piece) const;
-    bool Hostile(int cell, int mover) const { return hostile_[mover == CellAttacker][cells_[cell]]; }
+    bool Hostile(int cell, int mover) const {
+        if (cell == throne_) return mover == CellAttacker ? cells_[cell] == CellEmpty : true;
+        return hostile_[mover == CellAttacker][cells_[cell]];
+    }
+    bool ClosesOnKing(int cell) const;
+    bool KingTakenBy(int mover) const;
+    bool OnEdge(int cell) const;
+    bool Escaped(int cell) const;
+    template <typename Take>
+    void ForEachWallTaken(int at, Take take) const;
+    bool KingInFort() const;
+    bool DefendersEncircled() const;
     bool Sandwiched(int victim, int far, int mover, int enemy) const;
     template <typename Take>
     void ForEachTaken(int cell, Take take) const;
@@ -176,12 +194,14 @@ private:
     // defender, [1] for a moving attacker.
     std::array<std::array<bool, CellCorner + 1>, 2> hostile_{};
     int width_ = 0, height_ = 0, centre_ = 0, king_ = -1, side_ = 0;
+    // The throne when it is hostile, else a cell no square has.
+    int throne_ = -1;
     GameState state_ = GameState::GoesOn;
     std::uint64_t key_ = 0;
 };
 
 // True when side (AttackerCode or DefenderCode) may make the move in the
 // game's position as it stands, the King's move onto a corner included.
-bool IsLegalMove(const Position& g, int side, const Move& m, const Rules& rules = Rules::Classic());
+bool IsLegalMove(const Position& g, int side, const Move& m);
 
 }  // namespace jv

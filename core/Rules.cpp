@@ -1,11 +1,82 @@
 #include "core/Rules.h"
 
+#include <algorithm>
+#include <cctype>
+
 namespace jv {
+
+namespace {
+
+// The rules of the public tafl archive's games: the attackers move first,
+// only the King stops on the throne (every piece may pass it empty) and the
+// throne is hostile; the King fights, and taking him ends the move only as
+// a game ends.
+Rules ArchiveRules(std::string_view name, std::string_view layout, std::string_view openTafl) {
+    Rules rules;
+    rules.Name = name;
+    rules.Layout = layout;
+    rules.OpenTafl = openTafl;
+    rules.AttackersFirst = true;
+    rules.ThroneHostile = true;
+    rules.KingCaptureIsWholeMove = false;
+    rules.SandwichedKingEndsCaptures = false;
+    rules.NoMoveLoses = true;
+    return rules;
+}
+
+std::vector<Rules> MakeRuleSets() {
+    Rules copenhagen = ArchiveRules("Copenhagen", "copenhagen.txt",
+                                    "dim:11 esc:c surf:n atkf:y tfr:w ka:y ks:y cenh:y cenhe:y sw:y efe:y");
+    copenhagen.KingTaken = KingCapture::Four;
+    copenhagen.Shieldwall = true;
+    copenhagen.ExitFort = true;
+    copenhagen.Encirclement = true;
+    copenhagen.RepetitionLosesForDefenders = true;
+
+    Rules fetlar = ArchiveRules("Fetlar", "fetlar.txt", "dim:11 esc:c surf:n atkf:y tfr:d ka:y ks:y cenh:y cenhe:y");
+    fetlar.KingTaken = KingCapture::Four;
+
+    Rules brandubh = ArchiveRules("Brandubh", "brandubh.txt", "dim:7 esc:c surf:n atkf:y tfr:d ka:y ks:w cenh:y cenhe:y");
+    brandubh.KingTaken = KingCapture::FourNearTheThroneElseTwo;
+
+    Rules tablut = ArchiveRules("Tablut", "tablut.txt", "dim:9 esc:e surf:n atkf:y tfr:d ka:y ks:w cenh:y cenhe:y");
+    tablut.KingEscape = Escape::Edges;
+    tablut.CornersHostile = false;
+    tablut.KingTaken = KingCapture::FourNearTheThroneElseTwo;
+
+    Rules tawlbwrdd = ArchiveRules("Tawlbwrdd", "tawlbwrdd.txt", "dim:11 esc:e surf:n atkf:y tfr:d ka:y ks:w cenh:y cenhe:y");
+    tawlbwrdd.KingEscape = Escape::Edges;
+    tawlbwrdd.CornersHostile = false;
+    tawlbwrdd.KingTaken = KingCapture::FourNearTheThroneElseTwo;
+
+    return {Rules::Classic(), copenhagen, fetlar, brandubh, tablut, tawlbwrdd};
+}
+
+bool SameName(std::string_view a, std::string_view b) {
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) {
+        return std::tolower(static_cast<unsigned char>(x)) == std::tolower(static_cast<unsigned char>(y));
+    });
+}
+
+}  // namespace
 
 Rules Rules::Classic() {
     Rules rules;
     rules.Name = "Classic";
+    rules.Layout = "patf.txt";
+    rules.OpenTafl = "esc:c surf:n atkf:n tfr:i ka:y ks:y cenh: cenhe:";
     return rules;
+}
+
+const std::vector<Rules>& RuleSets() {
+    static const std::vector<Rules> sets = MakeRuleSets();
+    return sets;
+}
+
+const Rules* FindRules(std::string_view name) {
+    for (const Rules& rules : RuleSets())
+        if (SameName(rules.Name, name)) return &rules;
+    return nullptr;
 }
 
 }  // namespace jv
