@@ -9,12 +9,12 @@ namespace {
 
 constexpr int AttackerValue = 50;
 constexpr int DefenderValue = 100;
-constexpr int DirectRoute = 300;      // a free line from the King to a corner
-constexpr int TwoMoveRoute = 90;      // a corner the King reaches in two moves
+constexpr int DirectRoute = 300;      // a free line from the King to a corner (or to the edge)
+constexpr int TwoMoveRoute = 90;      // a corner (or an edge square) the King reaches in two moves
 constexpr int KingSquare = 8;         // each square the King can move to
 constexpr int RingSide = 35;          // an attacker (or corner) beside the King
 constexpr int RingDiagonal = 12;      // an attacker diagonally beside him
-constexpr int CornerDistance = 12;    // each step between the King and his nearest corner
+constexpr int CornerDistance = 12;    // each step between the King and his nearest escape
 constexpr int Closing = 3;            // each step fewer between an attacker and the King
 
 
@@ -27,7 +27,7 @@ int LineEnd(const RuleBoard& b, int cell, int step) {
 
 // The corners the King reaches in two moves: a corner lies on an edge, so
 // only a line that runs to an edge can end on a square that sees one.
-int TwoMoveRoutes(const RuleBoard& b, int king) {
+int TwoMoveCorners(const RuleBoard& b, int king) {
     int routes = 0;
     for (int step : CellSteps) {
         const int last = LineEnd(b, king, step);
@@ -37,6 +37,22 @@ int TwoMoveRoutes(const RuleBoard& b, int king) {
             if (b.At(LineEnd(b, last, side) + side) == CellCorner) ++routes;
     }
     return routes;
+}
+
+// The squares of the King's lines from which a free line runs on to the edge.
+int TwoMoveEdges(const RuleBoard& b, int king) {
+    int routes = 0;
+    for (int step : CellSteps) {
+        const int across = step == 1 || step == -1 ? CellStride : 1;
+        for (int c = king + step; b.At(c) == CellEmpty; c += step)
+            for (int side : {across, -across})
+                if (LineEnd(b, c, side) != c && b.At(LineEnd(b, c, side) + side) == CellWall) ++routes;
+    }
+    return routes;
+}
+
+int TwoMoveRoutes(const RuleBoard& b, int king) {
+    return b.RuleSet().KingEscape == Escape::Corners ? TwoMoveCorners(b, king) : TwoMoveEdges(b, king);
 }
 
 int KingMobility(const RuleBoard& b, int king) {
@@ -66,10 +82,11 @@ int AttackerSteps(const RuleBoard& b, int king) {
     return steps;
 }
 
-int NearestCorner(const RuleBoard& b, int king) {
+// The King's steps to his nearest corner, or to the nearest edge where he escapes there.
+int NearestEscape(const RuleBoard& b, int king) {
     const int col = ColOf(king), row = RowOf(king);
     const int dc = std::min(col - 1, b.Width() - col), dr = std::min(row - 1, b.Height() - row);
-    return dc + dr;
+    return b.RuleSet().KingEscape == Escape::Corners ? dc + dr : std::min(dc, dr);
 }
 
 }  // namespace
@@ -82,7 +99,7 @@ int EvaluateForAttackers(const RuleBoard& b) {
     score -= TwoMoveRoute * TwoMoveRoutes(b, king);
     score -= KingSquare * KingMobility(b, king);
     score += Ring(b, king);
-    score += CornerDistance * NearestCorner(b, king);
+    score += CornerDistance * NearestEscape(b, king);
     score -= Closing * AttackerSteps(b, king);
     return score;
 }
