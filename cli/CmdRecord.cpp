@@ -11,7 +11,7 @@ namespace jv::cli {
 // move apart, in turn, is reported at its first bad line.
 int RunRecord(const Args& args) {
     return RunOnMovesLogArgument(args, "record LOGFILE", [&](Game&, const std::vector<std::string>& lines) {
-        const GameRecordResult record = MakeGameRecord(lines);
+        const GameRecordResult record = MakeGameRecord(lines, Rules::Classic());
         if (!record.Ok) {
             std::cerr << "Moves Log File:\n" << args[0] << "\nline " << record.BadLine << ": " << record.Reason << '\n';
             return 2;
