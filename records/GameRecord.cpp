@@ -193,6 +193,16 @@ void SetBoard(Game& g, const LoggedPosition& p) {
     g.KingRow = p.KingRow;
 }
 
+// The rule board's position written back as a layout line has it: an empty
+// corner is a Home square, though under the edge escape the rule board holds
+// it as a square like any other.
+void WriteBack(const RuleBoard& board, Position& g) {
+    board.WriteTo(g);
+    for (int col : {1, g.BoardWidth})
+        for (int row : {1, g.BoardHeight})
+            if (g.Board(col, row) == EmptyCode) g.Board(col, row) = HomeCode;
+}
+
 // A move made on the rule board: the squares it took, in the order it took
 // them, and the mark written after it ("++" the King taken, "--" the King
 // home).
@@ -206,7 +216,7 @@ MadeMove MakeOnBoard(Position& g, const Move& m, int side) {
     RuleBoard board(g, side);
     MoveUndo undo;
     board.Make(RuleBoard::ToBoardMove(m), undo);
-    board.WriteTo(g);
+    WriteBack(board, g);
     MadeMove made;
     for (int i = 0; i < undo.Count; ++i) made.Taken.push_back(Square{ColOf(undo.Taken[i]), RowOf(undo.Taken[i])});
     made.Mark = board.State() == GameState::KingTaken ? "++" : board.State() == GameState::KingHome ? "--" : "";
@@ -258,7 +268,7 @@ void ForEachMove(Game& g, const LoggedPosition& before, Visit visit) {
             MoveUndo undo;
             board.Make(moves[i], undo);
             if (board.State() == GameState::GoesOn) {
-                board.WriteTo(g);
+                WriteBack(board, g);
                 LoggedPosition middle = before;
                 middle.Line.replace(4, std::string::npos, EncodePosition(g));
                 middle.KingCol = g.KingCol;
