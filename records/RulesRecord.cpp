@@ -12,11 +12,12 @@ using Keys = std::map<std::string, std::string, std::less<>>;
 
 // The keys that decide how a game is played, with OpenTafl's defaults.
 Keys DefaultKeys() {
-    return {{"esc", "c"},         {"surf", "y"},     {"atkf", "y"},         {"tfr", "d"},       {"ka", "y"},
-            {"ks", "s"},          {"kj", "n"},       {"ber", "n"},          {"spd", "-1"},      {"cor", "default"},
-            {"cors", "K"},        {"corh", "tcnkTCNK"}, {"cen", "default"}, {"cenp", "tcnkTCNK"}, {"cens", "K"},
-            {"cenre", "tcnkTCNK"}, {"cenh", "tcnk"}, {"cenhe", "tcnkTCNK"}, {"afor", ""},       {"dfor", ""},
-            {"sw", "n"},          {"swf", "y"},      {"efe", "n"}};
+    return {{"esc", "c"},        {"surf", "y"},        {"atkf", "y"},     {"tfr", "d"},
+            {"ka", "y"},         {"ks", "s"},          {"kj", "n"},       {"ber", "n"},
+            {"spd", "-1"},       {"cor", "default"},   {"cors", "K"},     {"corh", "tcnkTCNK"},
+            {"cen", "default"},  {"cenp", "tcnkTCNK"}, {"cens", "K"},     {"cenre", "tcnkTCNK"},
+            {"cenh", "tcnk"},    {"cenhe", "tcnkTCNK"}, {"afor", ""},     {"dfor", ""},
+            {"sw", "n"},         {"swf", "y"},         {"efe", "n"}};
 }
 
 // Keys read with the position (dim, start, starti), the variant's name, and
