@@ -11,6 +11,7 @@
 #include "records/Notation.h"
 #include "records/Otn.h"
 #include "records/PositionRecord.h"
+#include "records/RulesRecord.h"
 
 namespace jv {
 
@@ -192,6 +193,16 @@ void SetBoard(Game& g, const LoggedPosition& p) {
     g.KingRow = p.KingRow;
 }
 
+// The rule board's position written back as a layout line has it: an empty
+// corner is a Home square, though under the edge escape the rule board holds
+// it as a square like any other.
+void WriteBack(const RuleBoard& board, Position& g) {
+    board.WriteTo(g);
+    for (int col : {1, g.BoardWidth})
+        for (int row : {1, g.BoardHeight})
+            if (g.Board(col, row) == EmptyCode) g.Board(col, row) = HomeCode;
+}
+
 // A move made on the rule board: the squares it took, in the order it took
 // them, and the mark written after it ("++" the King taken, "--" the King
 // home).
@@ -205,7 +216,7 @@ MadeMove MakeOnBoard(Position& g, const Move& m, int side) {
     RuleBoard board(g, side);
     MoveUndo undo;
     board.Make(RuleBoard::ToBoardMove(m), undo);
-    board.WriteTo(g);
+    WriteBack(board, g);
     MadeMove made;
     for (int i = 0; i < undo.Count; ++i) made.Taken.push_back(Square{ColOf(undo.Taken[i]), RowOf(undo.Taken[i])});
     made.Mark = board.State() == GameState::KingTaken ? "++" : board.State() == GameState::KingHome ? "--" : "";
@@ -257,7 +268,7 @@ void ForEachMove(Game& g, const LoggedPosition& before, Visit visit) {
             MoveUndo undo;
             board.Make(moves[i], undo);
             if (board.State() == GameState::GoesOn) {
-                board.WriteTo(g);
+                WriteBack(board, g);
                 LoggedPosition middle = before;
                 middle.Line.replace(4, std::string::npos, EncodePosition(g));
                 middle.KingCol = g.KingCol;
@@ -317,8 +328,8 @@ public:
         return true;
     }
     const std::vector<std::string>& Lines() const { return lines_; }
-    // Without a move the defenders start, as the user's side does.
-    bool DefendersFirst() const { return count_ == 0 || defendersFirst_; }
+    // Without a move, the side the rules say.
+    bool AttackersFirst(const Rules& rules) const { return count_ == 0 ? rules.AttackersFirst : !defendersFirst_; }
 
 private:
     std::vector<std::string> lines_;
@@ -418,16 +429,15 @@ bool SplitRecord(const std::string& text, RecordParts& parts, std::string& reaso
     return true;
 }
 
-// The start position and the side that starts, from the rules record and
-// the position tag; false with the reason.
-bool ReadRules(const RecordParts& parts, std::string& start, bool& attackersFirst, std::string& reason) {
+// The start position, the side that starts and the rules, from the rules
+// record and the position tag; false with the reason.
+bool ReadRules(const RecordParts& parts, std::string& start, bool& attackersFirst, Rules& rules, std::string& reason) {
+    if (!ReadRulesRecord(parts.Rules, rules, attackersFirst, reason)) return false;
     std::istringstream fields(parts.Rules);
     std::string dim, otn;
     bool inverted = false;
-    attackersFirst = true;
     for (std::string field; fields >> field;) {
         if (field.rfind("dim:", 0) == 0) dim = field.substr(4);
-        if (field == "atkf:n") attackersFirst = false;
         if (field.rfind("start:", 0) == 0) otn = field.substr(6);
         if (field.rfind("starti:", 0) == 0) {
             otn = field.substr(7);
@@ -475,7 +485,7 @@ std::string RefuseWrittenMove(const Game& g, const WrittenMove& w, char side) {
     return "";
 }
 
-GameRecordResult MakeGameRecord(const std::vector<std::string>& layoutLines) {
+GameRecordResult MakeGameRecord(const std::vector<std::string>& layoutLines, const Rules& rules) {
     int width = 0, height = 0;
     if (layoutLines.empty()) return Refuse(1, "no positions");
     if (!ReadSize(layoutLines.front(), width, height)) return Refuse(1, "not a layout line");
@@ -485,6 +495,7 @@ GameRecordResult MakeGameRecord(const std::vector<std::string>& layoutLines) {
     SilentView view;
     Game g;
     g.View = &view;
+    g.GameRules = rules;
     BuildColumnLetters(g);
     NewBoard(g, width, height);
 
@@ -511,8 +522,8 @@ GameRecordResult MakeGameRecord(const std::vector<std::string>& layoutLines) {
     SetBoard(g, first);
     GameRecordResult result;
     result.Ok = true;
-    result.Lines = {"[rules:dim:" + std::to_string(width) + " esc:c surf:n atkf:" +
-                    (numbers.DefendersFirst() ? "n" : "y") + " tfr:i ka:y ks:y cenh: cenhe: start:" + OtnPosition(g) + "]"};
+    result.Lines = {"[rules:dim:" + std::to_string(width) + " " + RulesRecordKeys(rules, numbers.AttackersFirst(rules)) +
+                    " start:" + OtnPosition(g) + "]"};
     if (!numbers.Lines().empty()) result.Lines.push_back("");
     result.Lines.insert(result.Lines.end(), numbers.Lines().begin(), numbers.Lines().end());
     return result;
@@ -524,10 +535,11 @@ OtnGameResult ReadOtnGame(const std::string& text) {
     if (!SplitRecord(text, parts, result.Reason)) return result;
     std::string start;
     bool attackersFirst = true;
-    if (!ReadRules(parts, start, attackersFirst, result.Reason)) return result;
+    if (!ReadRules(parts, start, attackersFirst, result.GameRules, result.Reason)) return result;
     SilentView view;
     Game g;
     g.View = &view;
+    g.GameRules = result.GameRules;
     BuildColumnLetters(g);
     NewBoard(g, ValInt(std::string_view(start).substr(0, 2)), ValInt(std::string_view(start).substr(2, 2)));
     LoggedPosition position;
