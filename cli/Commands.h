@@ -28,6 +28,7 @@ int RunFromOtn(const Args& args);
 int RunRecord(const Args& args);
 int RunBestmove(const Args& args);
 int RunMatch(const Args& args);
+int RunEngine(const Args& args);
 
 // A game set up for one command: its own view, the program's folder and the
 // column letters.

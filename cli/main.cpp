@@ -28,6 +28,7 @@ const std::map<std::string, Command>& Commands() {
         {"from-otn", {RunFromOtn, "from-otn POSITION OUT  write an OpenTafl position as a layout file"}},
         {"bestmove", {RunBestmove, "bestmove FILE --side attackers|defenders [--ms N | --depth D]  the strong player's move"}},
         {"match", {RunMatch, "match --attackers classic|strong[:MS] --defenders classic|strong[:MS] --games N [--openings K] [--seed S] LAYOUT...  the players against each other"}},
+        {"engine", {RunEngine, "engine              the strong player as an OpenTafl engine on standard input and output"}},
         {"record", {RunRecord, "record LOGFILE      print a moves log as a game record in standard move notation"}},
     };
     return commands;
