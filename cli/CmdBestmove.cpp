@@ -10,12 +10,13 @@ namespace jv::cli {
 namespace {
 
 const char* const BestmoveUsage =
-    "usage: jarlsvakt-cli bestmove FILE --side attackers|defenders [--ms N | --depth D]\n";
+    "usage: jarlsvakt-cli bestmove FILE --side attackers|defenders [--ms N | --depth D] [--rules NAME]\n";
 
 struct BestmoveOptions {
     std::string File;
     int Side = -1;
     SearchLimits Limits;
+    Rules GameRules = Rules::Classic();
 };
 
 bool ParseOptions(const Args& args, BestmoveOptions& o) {
@@ -31,7 +32,7 @@ bool ParseOptions(const Args& args, BestmoveOptions& o) {
         } else if (a == "--depth" && ReadCount(value, n) && n > 0 && n <= SearchMaxPly / 2) {
             o.Limits.MaxDepth = static_cast<int>(n);
             deep = true;
-        } else {
+        } else if (a != "--rules" || !ReadRulesOption(value, o.GameRules)) {
             return false;
         }
         return true;
@@ -54,6 +55,7 @@ int RunBestmove(const Args& args) {
     view.Quiet = true;
     Game g;
     PrepareGame(g, view);
+    g.GameRules = o.GameRules;
     if (!ReadLayoutArgument(g, o.File)) return 2;
 
     const SearchResult r = SearchBestMove(g, o.Side, o.Limits, [&g](const SearchProgress& p) {

@@ -18,7 +18,7 @@ namespace {
 
 const char* const MatchUsage =
     "usage: jarlsvakt-cli match --attackers classic|strong[:MS] --defenders classic|strong[:MS] --games N "
-    "[--openings K] [--seed S] LAYOUT...\n";
+    "[--openings K] [--seed S] [--rules NAME] LAYOUT...\n";
 
 // A game of more moves than this (the opening's random moves aside) is a draw.
 constexpr int MaxGameMoves = 300;
@@ -32,6 +32,7 @@ struct Player {
 struct MatchOptions {
     Player Players[2];   // indexed by side code
     long long Games = 0, Openings = 0, Seed = 1;
+    Rules GameRules = Rules::Classic();
     std::vector<std::string> Layouts;
 };
 
@@ -57,6 +58,7 @@ bool ParseOptions(const Args& args, MatchOptions& o) {
         if (a == "--defenders") return defenders = ReadPlayer(value, o.Players[DefenderCode]);
         if (a == "--games") return ReadCount(value, o.Games);
         if (a == "--openings") return ReadCount(value, o.Openings);
+        if (a == "--rules") return ReadRulesOption(value, o.GameRules);
         return a == "--seed" && ReadCount(value, o.Seed);
     };
     return ReadArguments(args, layout, option) && attackers && defenders && o.Games > 0 && !o.Layouts.empty();
@@ -113,9 +115,10 @@ Outcome PlayGame(Game& g, const MatchOptions& o, int side, LayoutTally& tally) {
     return Outcome::Draw;
 }
 
-// The game's position after the opening's seeded random moves, the defenders first.
+// The game's position after the opening's seeded random moves, the rules'
+// first side first; the side to move then.
 int PlayOpening(Game& g, long long moves) {
-    int side = DefenderCode;
+    int side = g.GameRules.AttackersFirst ? AttackerCode : DefenderCode;
     for (long long i = 0; i < moves && !g.GameOver; ++i, side ^= 1) RandomMover(g, side);
     return side;
 }
@@ -128,8 +131,13 @@ int RunMatch(const Args& args) {
         std::cerr << MatchUsage;
         return 1;
     }
+    const char* classic = !o.Players[AttackerCode].Strong   ? "match --attackers classic"
+                          : !o.Players[DefenderCode].Strong ? "match --defenders classic"
+                                                            : nullptr;
+    if (classic && !ClassicPlayersMayPlay(o.GameRules, classic)) return 1;
     std::cout << "attackers " << PlayerName(o.Players[AttackerCode]) << ", defenders "
-              << PlayerName(o.Players[DefenderCode]) << ", " << o.Games << " games a layout\n";
+              << PlayerName(o.Players[DefenderCode]) << ", " << o.Games << " games a layout"
+              << (o.GameRules == Rules::Classic() ? "" : " under " + std::string(o.GameRules.Name)) << '\n';
     for (const std::string& layout : o.Layouts) {
         LayoutTally tally;
         for (long long game = 0; game < o.Games; ++game) {
@@ -137,6 +145,7 @@ int RunMatch(const Args& args) {
             view.Quiet = true;
             Game g;
             PrepareGame(g, view);
+            g.GameRules = o.GameRules;
             if (!LoadLayoutArgument(g, layout)) return 2;
             g.Check1 = false;
             g.Random.Timer = TickingClock(static_cast<double>(o.Seed) + 1000.0 * static_cast<double>(game));

@@ -4,16 +4,22 @@
 #include "cli/Commands.h"
 #include "records/LayoutFile.h"
 #include "records/Otn.h"
+#include "records/OtnFile.h"
 
 namespace jv::cli {
 
-// The OpenTafl position of a layout; one the OTN reader would refuse (a
-// board that is not square, no King) is refused.
+// The OpenTafl position of a layout, as an .otn file holds it under the rule
+// set named (OtnFileLine); one the OTN reader would refuse (a board that is
+// not square, no King) is refused.
 int RunOtn(const Args& args) {
-    if (!HasArguments(args, 1, "otn FILE|-")) return 1;
+    std::string file;
     CommandGame game;
     const Game& g = game.g;
-    if (!ReadLayoutArgument(game.g, args[0])) return 2;
+    if (!ReadFileAndRules(args, file, game.g.GameRules)) {
+        std::cerr << "usage: jarlsvakt-cli otn FILE|- [--rules NAME]\n";
+        return 1;
+    }
+    if (!ReadLayoutArgument(game.g, file)) return 2;
     if (g.BoardWidth != g.BoardHeight) {
         std::cerr << "An OpenTafl board is square: this layout is " << g.BoardWidth << "x" << g.BoardHeight << '\n';
         return 2;
@@ -22,7 +28,7 @@ int RunOtn(const Args& args) {
         std::cerr << "No OpenTafl position can be written of this layout: " << refusal << '\n';
         return 2;
     }
-    std::cout << OtnPosition(g) << '\n';
+    std::cout << OtnFileLine(g) << '\n';
     return 0;
 }
 

@@ -9,7 +9,7 @@ namespace jv::cli {
 
 namespace {
 
-const char* const PerftUsage = "usage: jarlsvakt-cli perft FILE|- DEPTH [--side attackers|defenders]\n";
+const char* const PerftUsage = "usage: jarlsvakt-cli perft FILE|- DEPTH [--side attackers|defenders] [--rules NAME]\n";
 
 bool ParseDepth(const std::string& text, int& depth) {
     if (text.empty() || text.size() > 3) return false;
@@ -23,27 +23,28 @@ bool ParseDepth(const std::string& text, int& depth) {
 
 int RunPerft(const Args& args) {
     int depth = 0;
-    int side = DefenderCode;   // the defenders move first in the program
+    int side = -1;   // the rule set's first side unless named
+    Rules rules = Rules::Classic();
     std::vector<std::string> plain;
-    for (std::size_t i = 0; i < args.size(); ++i) {
-        if (args[i] != "--side") {
-            plain.push_back(args[i]);
-            continue;
-        }
-        const std::string value = i + 1 < args.size() ? args[++i] : "";
-        if (value != "attackers" && value != "defenders") {
-            std::cerr << PerftUsage;
-            return 1;
-        }
+    const auto keep = [&](const std::string& a) {
+        plain.push_back(a);
+        return true;
+    };
+    const auto option = [&](const std::string& a, const std::string& value) {
+        if (a == "--rules") return ReadRulesOption(value, rules);
+        if (a != "--side" || (value != "attackers" && value != "defenders")) return false;
         side = value == "attackers" ? AttackerCode : DefenderCode;
-    }
-    if (plain.size() != 2 || !ParseDepth(plain[1], depth)) {
+        return true;
+    };
+    if (!ReadArguments(args, keep, option) || plain.size() != 2 || !ParseDepth(plain[1], depth)) {
         std::cerr << PerftUsage;
         return 1;
     }
+    if (side < 0) side = rules.AttackersFirst ? AttackerCode : DefenderCode;
 
     CommandGame game(true);
     Game& g = game.g;
+    g.GameRules = rules;
     if (!ReadLayoutArgument(g, plain[0])) return 2;
 
     std::uint64_t total = depth == 0 ? 1 : 0;

@@ -21,7 +21,7 @@ namespace jv::cli {
 namespace {
 
 const char* const PlayUsage =
-    "usage: jarlsvakt-cli play FILE [--auto-reply] [--seed N] MOVE...\n"
+    "usage: jarlsvakt-cli play FILE [--auto-reply] [--seed N] [--rules NAME] MOVE...\n"
     "  MOVE: user:CCRR>CCRR  attacker:CCRR>CCRR  defender:CCRR>CCRR  red  green  undo\n"
     "        (a move may also be written in standard notation, with the King's letter and the marks\n"
     "        of a game record: user:d1-d4, user:Kf6-f5, attacker:d5-b5xb4++)\n";
@@ -109,12 +109,22 @@ std::string Apply(Game& g, const Step& step) {
     return "";
 }
 
+// What of the run the classic computer players make: the answers of
+// --auto-reply and the red and green steps ("" when nothing).
+std::string ClassicStepsOf(bool autoReply, const std::vector<Step>& steps) {
+    std::string made = autoReply ? "--auto-reply" : "";
+    for (const Step& step : steps)
+        if (step.Kind == "red" || step.Kind == "green") made += (made.empty() ? "" : ", ") + step.Text;
+    return made;
+}
+
 }  // namespace
 
 int RunPlay(const Args& args) {
     std::string file;
     bool autoReply = false;
     std::optional<double> seed;
+    Rules rules = Rules::Classic();
     std::vector<Step> steps;
     for (std::size_t i = 0; i < args.size(); ++i) {
         const std::string& a = args[i];
@@ -122,6 +132,11 @@ int RunPlay(const Args& args) {
             autoReply = true;
         } else if (a == "--seed" && i + 1 < args.size() && AllDigits(args[i + 1]) && args[i + 1].size() <= 9) {
             seed = std::stod(args[++i]);
+        } else if (a == "--rules") {
+            if (i + 1 == args.size() || !ReadRulesOption(args[++i], rules)) {
+                std::cerr << PlayUsage;
+                return 1;
+            }
         } else if (file.empty()) {
             file = a;
         } else if (const auto step = ParseStep(a)) {
@@ -135,9 +150,13 @@ int RunPlay(const Args& args) {
         std::cerr << PlayUsage;
         return 1;
     }
+    if (const std::string classic = ClassicStepsOf(autoReply, steps);
+        !classic.empty() && !ClassicPlayersMayPlay(rules, "play " + classic))
+        return 1;
 
     CommandGame game;
     Game& g = game.g;
+    g.GameRules = rules;
     g.Check1 = autoReply;
     if (seed) {
         // The computer players reseed from the timer before they draw: a

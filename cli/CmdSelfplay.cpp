@@ -15,7 +15,7 @@ namespace jv::cli {
 namespace {
 
 const char* const SelfplayUsage =
-    "usage: jarlsvakt-cli selfplay FILE --games N [--max-moves M] [--seed S] [--log DIR]\n";
+    "usage: jarlsvakt-cli selfplay FILE --games N [--max-moves M] [--seed S] [--log DIR] [--rules NAME]\n";
 
 struct SelfplayOptions {
     std::string File;
@@ -24,6 +24,7 @@ struct SelfplayOptions {
     bool Seeded = false;
     long long Seed = 0;
     std::string LogFolder;
+    Rules GameRules = Rules::Classic();
 };
 
 bool ParseOptions(const Args& args, SelfplayOptions& o) {
@@ -31,6 +32,7 @@ bool ParseOptions(const Args& args, SelfplayOptions& o) {
     const auto option = [&](const std::string& a, const std::string& value) {
         long long n = 0;
         if (a == "--log") o.LogFolder = value;
+        else if (a == "--rules") return ReadRulesOption(value, o.GameRules);
         else if (!ReadCount(value, n)) return false;
         else if (a == "--games") o.Games = static_cast<int>(n);
         else if (a == "--max-moves") o.MaxMoves = static_cast<int>(n);
@@ -56,6 +58,8 @@ int RunSelfplay(const Args& args) {
         std::cerr << SelfplayUsage;
         return 1;
     }
+    // The automatic game is the classic players' alone.
+    if (!ClassicPlayersMayPlay(o.GameRules, "selfplay")) return 1;
     if (!o.LogFolder.empty()) {
         std::error_code ec;
         std::filesystem::create_directories(o.LogFolder, ec);

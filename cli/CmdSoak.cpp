@@ -13,7 +13,7 @@ namespace jv::cli {
 namespace {
 
 const char* const SoakUsage =
-    "usage: jarlsvakt-cli soak FILE... [--moves N] [--seed S] [--log DIR]\n"
+    "usage: jarlsvakt-cli soak FILE... [--moves N] [--seed S] [--log DIR] [--rules NAME]\n"
     "  a test run: the computer players play each other for N moves (10000) per layout, the random\n"
     "  mover standing in for a side whose player finds no move, each game that ends started again;\n"
     "  the moves log (DIR/soak-FILE, DIR the system's temporary folder by default) is then replayed\n";
@@ -23,6 +23,7 @@ struct Options {
     long long Moves = 10000;
     long long Seed = 1;
     std::string LogFolder = std::filesystem::temp_directory_path().string();
+    Rules GameRules = Rules::Classic();
 };
 
 bool ParseOptions(const Args& args, Options& o) {
@@ -33,6 +34,7 @@ bool ParseOptions(const Args& args, Options& o) {
     const auto option = [&](const std::string& a, const std::string& value) {
         if (a == "--log") return !(o.LogFolder = value).empty();
         if (a == "--moves") return ReadCount(value, o.Moves) && o.Moves > 0;
+        if (a == "--rules") return ReadRulesOption(value, o.GameRules);
         return a == "--seed" && ReadCount(value, o.Seed);
     };
     return ReadArguments(args, layout, option) && !o.Layouts.empty();
@@ -92,6 +94,8 @@ int RunSoak(const Args& args) {
         std::cerr << SoakUsage;
         return 1;
     }
+    // The soak's players are the classic ones.
+    if (!ClassicPlayersMayPlay(o.GameRules, "soak")) return 1;
     // Every layout is looked at before the first run starts, so a bad one at
     // the end of the list does not stop a long run halfway.
     for (const std::string& layout : o.Layouts)

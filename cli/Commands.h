@@ -28,6 +28,7 @@ int RunFromOtn(const Args& args);
 int RunRecord(const Args& args);
 int RunBestmove(const Args& args);
 int RunMatch(const Args& args);
+int RunRules(const Args& args);
 int RunEngine(const Args& args);
 
 // A game set up for one command: its own view, the program's folder and the
@@ -52,6 +53,20 @@ bool ReadCount(const std::string& text, long long& value);
 // its argument or an option has no value.
 bool ReadArguments(const Args& args, const std::function<bool(const std::string&)>& plain,
                    const std::function<bool(const std::string& name, const std::string& value)>& option);
+
+// The rule set "--rules NAME" names, in any case. An unknown name is refused
+// on standard error with the names of the rule sets; false then.
+bool ReadRulesOption(const std::string& name, Rules& rules);
+
+// "FILE [--rules NAME]": the file and the rule set (the classic rules unless
+// named). False when the arguments are not of that form.
+bool ReadFileAndRules(const Args& args, std::string& file, Rules& rules);
+
+// True when the classic computer players (the ranked lists), made for the
+// classic rules alone, may play under the rules; otherwise says so on
+// standard error, naming `what` of the command would have them play and
+// that the strong player plays every rule set, and returns false.
+bool ClassicPlayersMayPlay(const Rules& rules, const std::string& what);
 
 // True when the command got exactly count arguments; else prints its usage
 // line on standard error.

@@ -35,6 +35,34 @@ bool ReadArguments(const Args& args, const std::function<bool(const std::string&
     return true;
 }
 
+bool ReadRulesOption(const std::string& name, Rules& rules) {
+    if (const Rules* found = FindRules(name)) {
+        rules = *found;
+        return true;
+    }
+    std::cerr << "jarlsvakt-cli: no rule set is named " << name << "; the rule sets:";
+    for (const Rules& set : RuleSets()) std::cerr << ' ' << set.Name;
+    std::cerr << '\n';
+    return false;
+}
+
+bool ReadFileAndRules(const Args& args, std::string& file, Rules& rules) {
+    rules = Rules::Classic();
+    const auto plain = [&](const std::string& a) { return file.empty() && !(file = a).empty(); };
+    const auto option = [&](const std::string& a, const std::string& value) {
+        return a == "--rules" && ReadRulesOption(value, rules);
+    };
+    return ReadArguments(args, plain, option) && !file.empty();
+}
+
+bool ClassicPlayersMayPlay(const Rules& rules, const std::string& what) {
+    if (rules == Rules::Classic()) return true;
+    std::cerr << "jarlsvakt-cli " << what << ": the classic computer players are made for the classic rules alone, "
+              << "not for " << rules.Name
+              << "; the strong player plays every rule set (match --attackers strong --defenders strong)\n";
+    return false;
+}
+
 bool HasArguments(const Args& args, std::size_t count, const char* usage) {
     if (args.size() == count) return true;
     std::cerr << "usage: jarlsvakt-cli " << usage << '\n';

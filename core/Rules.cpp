@@ -26,25 +26,30 @@ Rules ArchiveRules(std::string_view name, std::string_view layout, std::string_v
 
 std::vector<Rules> MakeRuleSets() {
     Rules copenhagen = ArchiveRules("Copenhagen", "copenhagen.txt",
-                                    "dim:11 esc:c surf:n atkf:y tfr:w ka:y ks:y cenh:y cenhe:y sw:y efe:y");
+                                    "name:Copenhagen esc:c surf:y atkf:y tfr:w ka:y ks:y cenh:tcnk cenhe:tcnkTCNK "
+                                    "sw:s efe:y");
     copenhagen.KingTaken = KingCapture::Four;
     copenhagen.Shieldwall = true;
     copenhagen.ExitFort = true;
     copenhagen.Encirclement = true;
     copenhagen.RepetitionLosesForDefenders = true;
 
-    Rules fetlar = ArchiveRules("Fetlar", "fetlar.txt", "dim:11 esc:c surf:n atkf:y tfr:d ka:y ks:y cenh:y cenhe:y");
+    Rules fetlar = ArchiveRules("Fetlar", "fetlar.txt",
+                                "name:Fetlar esc:c surf:n atkf:y tfr:i ka:y ks:y cenh:tcnk cenhe:tcnkTCNK");
     fetlar.KingTaken = KingCapture::Four;
 
-    Rules brandubh = ArchiveRules("Brandubh", "brandubh.txt", "dim:7 esc:c surf:n atkf:y tfr:d ka:y ks:w cenh:y cenhe:y");
+    Rules brandubh = ArchiveRules("Brandubh", "brandubh.txt",
+                                  "name:Brandubh esc:c surf:n atkf:y tfr:i ka:y ks:c cenh:tcnk cenhe:tcnkTCNK");
     brandubh.KingTaken = KingCapture::FourNearTheThroneElseTwo;
 
-    Rules tablut = ArchiveRules("Tablut", "tablut.txt", "dim:9 esc:e surf:n atkf:y tfr:d ka:y ks:w cenh:y cenhe:y");
+    Rules tablut = ArchiveRules("Tablut", "tablut.txt",
+                                "name:Tablut esc:e surf:n atkf:y tfr:i ka:y ks:c cenh:tcnk cenhe:tcnkTCNK cor:");
     tablut.KingEscape = Escape::Edges;
     tablut.CornersHostile = false;
     tablut.KingTaken = KingCapture::FourNearTheThroneElseTwo;
 
-    Rules tawlbwrdd = ArchiveRules("Tawlbwrdd", "tawlbwrdd.txt", "dim:11 esc:e surf:n atkf:y tfr:d ka:y ks:w cenh:y cenhe:y");
+    Rules tawlbwrdd = ArchiveRules("Tawlbwrdd", "tawlbwrdd.txt",
+                                   "name:Tawlbwrdd esc:e surf:n atkf:y tfr:i ka:y ks:c cenh:tcnk cenhe:tcnkTCNK cor:");
     tawlbwrdd.KingEscape = Escape::Edges;
     tawlbwrdd.CornersHostile = false;
     tawlbwrdd.KingTaken = KingCapture::FourNearTheThroneElseTwo;

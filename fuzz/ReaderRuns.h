@@ -383,8 +383,8 @@ inline std::string RunVal(std::string_view input) {
 // ReadOtnGame on the input as the text of an .otg file. It reads every move
 // or gives its reason; every position it gives is a layout line of the
 // start's board that reads back to itself; and those positions, written as a
-// game record, read back to the same positions: what the reader takes is a
-// game the program can write.
+// game record under the rules read, read back to the same positions under the
+// same rules: what the reader takes is a game the program can write.
 inline std::string RunGameRecord(std::string_view input) {
     const OtnGameResult game = ReadOtnGame(std::string(input));
     if (game.Ok == !game.Reason.empty()) return game.Ok ? "a record read whole has a reason" : "a refusal without a reason";
@@ -394,10 +394,11 @@ inline std::string RunGameRecord(std::string_view input) {
         if (line.compare(0, 4, game.Positions.front(), 0, 4) != 0) return "a position of another board size";
         if (!ApplyLayoutLine(g, line).Ok() || LayoutLine(g) != line) return "a position does not read back as itself";
     }
-    const GameRecordResult record = MakeGameRecord(game.Positions);
+    const GameRecordResult record = MakeGameRecord(game.Positions, game.GameRules);
     if (!record.Ok) return "the game read is not written: line " + std::to_string(record.BadLine) + ": " + record.Reason;
     const OtnGameResult again = ReadOtnGame(JoinLines(record.Lines));
     if (!again.Ok) return "the record written is refused: " + again.Reason;
+    if (!(again.GameRules == game.GameRules)) return "the record written reads back under other rules";
     return again.Positions == game.Positions ? "" : "the record written reads back to other positions";
 }
 

@@ -11,6 +11,7 @@
 #include "records/Notation.h"
 #include "records/Otn.h"
 #include "records/PositionRecord.h"
+#include "records/RulesRecord.h"
 
 namespace jv {
 
@@ -317,8 +318,8 @@ public:
         return true;
     }
     const std::vector<std::string>& Lines() const { return lines_; }
-    // Without a move the defenders start, as the user's side does.
-    bool DefendersFirst() const { return count_ == 0 || defendersFirst_; }
+    // Without a move, the side the rules say.
+    bool AttackersFirst(const Rules& rules) const { return count_ == 0 ? rules.AttackersFirst : !defendersFirst_; }
 
 private:
     std::vector<std::string> lines_;
@@ -418,16 +419,15 @@ bool SplitRecord(const std::string& text, RecordParts& parts, std::string& reaso
     return true;
 }
 
-// The start position and the side that starts, from the rules record and
-// the position tag; false with the reason.
-bool ReadRules(const RecordParts& parts, std::string& start, bool& attackersFirst, std::string& reason) {
+// The start position, the side that starts and the rules, from the rules
+// record and the position tag; false with the reason.
+bool ReadRules(const RecordParts& parts, std::string& start, bool& attackersFirst, Rules& rules, std::string& reason) {
+    if (!ReadRulesRecord(parts.Rules, rules, attackersFirst, reason)) return false;
     std::istringstream fields(parts.Rules);
     std::string dim, otn;
     bool inverted = false;
-    attackersFirst = true;
     for (std::string field; fields >> field;) {
         if (field.rfind("dim:", 0) == 0) dim = field.substr(4);
-        if (field == "atkf:n") attackersFirst = false;
         if (field.rfind("start:", 0) == 0) otn = field.substr(6);
         if (field.rfind("starti:", 0) == 0) {
             otn = field.substr(7);
@@ -475,7 +475,7 @@ std::string RefuseWrittenMove(const Game& g, const WrittenMove& w, char side) {
     return "";
 }
 
-GameRecordResult MakeGameRecord(const std::vector<std::string>& layoutLines) {
+GameRecordResult MakeGameRecord(const std::vector<std::string>& layoutLines, const Rules& rules) {
     int width = 0, height = 0;
     if (layoutLines.empty()) return Refuse(1, "no positions");
     if (!ReadSize(layoutLines.front(), width, height)) return Refuse(1, "not a layout line");
@@ -485,6 +485,7 @@ GameRecordResult MakeGameRecord(const std::vector<std::string>& layoutLines) {
     SilentView view;
     Game g;
     g.View = &view;
+    g.GameRules = rules;
     BuildColumnLetters(g);
     NewBoard(g, width, height);
 
@@ -511,8 +512,8 @@ GameRecordResult MakeGameRecord(const std::vector<std::string>& layoutLines) {
     SetBoard(g, first);
     GameRecordResult result;
     result.Ok = true;
-    result.Lines = {"[rules:dim:" + std::to_string(width) + " esc:c surf:n atkf:" +
-                    (numbers.DefendersFirst() ? "n" : "y") + " tfr:i ka:y ks:y cenh: cenhe: start:" + OtnPosition(g) + "]"};
+    result.Lines = {"[rules:dim:" + std::to_string(width) + " " + RulesRecordKeys(rules, numbers.AttackersFirst(rules)) +
+                    " start:" + OtnPosition(g) + "]"};
     if (!numbers.Lines().empty()) result.Lines.push_back("");
     result.Lines.insert(result.Lines.end(), numbers.Lines().begin(), numbers.Lines().end());
     return result;
@@ -524,10 +525,11 @@ OtnGameResult ReadOtnGame(const std::string& text) {
     if (!SplitRecord(text, parts, result.Reason)) return result;
     std::string start;
     bool attackersFirst = true;
-    if (!ReadRules(parts, start, attackersFirst, result.Reason)) return result;
+    if (!ReadRules(parts, start, attackersFirst, result.GameRules, result.Reason)) return result;
     SilentView view;
     Game g;
     g.View = &view;
+    g.GameRules = result.GameRules;
     BuildColumnLetters(g);
     NewBoard(g, ValInt(std::string_view(start).substr(0, 2)), ValInt(std::string_view(start).substr(2, 2)));
     LoggedPosition position;

@@ -2,6 +2,7 @@
 
 #include "core/VbText.h"
 #include "records/Otn.h"
+#include "records/RulesRecord.h"
 #include "records/TextFile.h"
 
 namespace jv {
@@ -23,10 +24,16 @@ bool IsOtnFileName(const std::string& name) { return EndsWith(name, ".otn"); }
 
 bool IsOtnGameFileName(const std::string& name) { return EndsWith(name, ".otg"); }
 
+std::string OtnFileLine(const Game& g) {
+    if (g.GameRules == Rules::Classic()) return OtnPosition(g);
+    return "dim:" + std::to_string(g.BoardWidth) + " " + RulesRecordKeys(g.GameRules, g.GameRules.AttackersFirst) +
+           " start:" + OtnPosition(g);
+}
+
 WriteResult WriteOtnFile(const Game& g, const std::string& path) {
     const std::string refusal = OtnRefusal(g);
     if (!refusal.empty()) return {false, "cannot hold this position: " + refusal};
-    return WriteFileAtomically(path, OtnPosition(g) + "\r\n");
+    return WriteFileAtomically(path, OtnFileLine(g) + "\r\n");
 }
 
 }  // namespace jv

@@ -51,6 +51,8 @@ bool EngineProtocol::Handle(const std::string& line) {
     if (words.empty()) return true;
     const std::string& command = words.front();
     if (command == "goodbye") return false;
+    const bool clock = command == "clock";
+    if (WaitingToPlay() && !clock) PlayNow();
     if (command == "rules") ReadRules(line.substr(line.find("rules") + 5));
     else if (command == "clock") {
         attackerSeconds_ = NumberOr(words, 1, -1);
@@ -64,8 +66,10 @@ bool EngineProtocol::Handle(const std::string& line) {
     } else if (command == "opponent-move" && ready_) {
         OpponentMove(words);
     } else if (command == "play" && words.size() > 1 && ready_) {
-        Play(SideOf(words[1]));
-    } else if (command == "analyze" && ready_) {
+        waitingSide_ = SideOf(words[1]);
+        return true;
+    }
+    if (clock && WaitingToPlay()) PlayNow(); else if (command == "analyze" && ready_) {
         Analyze(std::max(1, static_cast<int>(NumberOr(words, 1, 1))), NumberOr(words, 2, 1));
     }
     // Anything else (hello, start, side, finish, simple-moves, an unknown
@@ -145,6 +149,12 @@ int EngineProtocol::MoveMillis(int side) const {
     if (overtimes > 0) millis += overtimeSeconds_ * 1000 * 0.8;
     millis = std::min(millis, std::max(seconds, overtimes > 0 ? overtimeSeconds_ : 0.0) * 1000 / 2);
     return std::max(LeastMillis, static_cast<int>(millis));
+}
+
+void EngineProtocol::PlayNow() {
+    const int side = waitingSide_;
+    waitingSide_ = -1;
+    if (side >= 0) Play(side);
 }
 
 void EngineProtocol::Play(int side) {

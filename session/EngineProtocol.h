@@ -23,6 +23,12 @@ public:
     // Answers one line of the host; false once the host has said goodbye.
     bool Handle(const std::string& line);
 
+    // The host sends its clock right after asking for a move: a move asked
+    // for waits for the next line. True while one waits; PlayNow plays it
+    // on the clock known so far, when no line comes.
+    bool WaitingToPlay() const { return waitingSide_ >= 0; }
+    void PlayNow();
+
     // The thinking time of one move from the clock the host gave last, in
     // milliseconds.
     int MoveMillis(int side) const;
@@ -42,6 +48,7 @@ private:
     Game game_;
     bool ready_ = false;             // a rules line has set up the game
     int sideToMove_ = AttackerCode;
+    int waitingSide_ = -1;           // the side a move is asked for, until it is played
     std::vector<std::uint64_t> played_;   // the keys of the game's positions so far
     // The clock: the seconds left for each side (-1 without one), the length
     // of an overtime period and the periods left for each side.

@@ -41,7 +41,7 @@ void ExportGameRecordCommand(Game& g) {
         g.View->Show("No move has been made in this game yet", "vbinformation+vbok");
         return;
     }
-    const GameRecordResult record = MakeGameRecord(HistoryLines(g));
+    const GameRecordResult record = MakeGameRecord(HistoryLines(g), g.GameRules);
     if (!record.Ok) {
         g.View->Show("The moves cannot be written as a game record:\r\n" + BadMove(record), "vbcritical+vbok");
         return;

@@ -120,6 +120,20 @@ bool LoadOtnLayoutLine(Game& g, const std::string& layout) {
     return g.LayoutFile == path;   // a failure is reported by LoadLayout
 }
 
+// The position of an .otn file's line and the rules it is played under: a
+// bare OTN position under the rules in play, as a layout file, or a rules
+// record with its start under its own rules. False with the reason.
+bool ReadOtnLine(const Game& g, const std::string& line, std::string& layout, Rules& rules, std::string& reason) {
+    rules = g.GameRules;
+    if (line.find(':') == std::string::npos) return OtnToLayoutLine(line, layout, reason);
+    const OtnGameResult record = ReadOtnGame(line);
+    reason = record.Reason;
+    if (!record.Ok) return false;
+    layout = record.Positions.front();
+    rules = record.GameRules;
+    return true;
+}
+
 }  // namespace
 
 bool LoadLayout(Game& g, const std::string& path) {
@@ -144,12 +158,14 @@ bool LoadOtnFile(Game& g, const std::string& name) {
         g.View->Show("OpenTafl Position File:\r\n" + name + "\r\ncould not be read", "vbcritical+vbok");
         return false;
     }
-    if (!OtnToLayoutLine(otn, layout, reason)) {
+    Rules rules;
+    if (!ReadOtnLine(g, otn, layout, rules, reason)) {
         g.View->Show("OpenTafl Position File:\r\n" + name + "\r\nholds no position JarlsVakt can play: " + reason,
                      "vbcritical+vbok");
         return false;
     }
     if (!LoadOtnLayoutLine(g, layout)) return false;
+    g.GameRules = rules;
     PrintLog(g, "OpenTafl position: " + name, 0, 0);
     return true;
 }
@@ -167,6 +183,7 @@ bool LoadOtnGame(Game& g, const std::string& name) {
         return false;
     }
     if (!LoadOtnLayoutLine(g, game.Positions.front())) return false;
+    g.GameRules = game.GameRules;
     PrintLog(g, "OpenTafl game: " + name, 0, 0);
     StepThroughLog(g, game.Positions);
     if (!game.Ok)

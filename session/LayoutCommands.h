@@ -12,13 +12,15 @@ bool LoadLayout(Game& g, const std::string& path);
 
 // Loads the position of an .otn file: it becomes the layout file
 // "otnlayout.txt" of the program's folder, which LoadLayout then loads like
-// any layout, so the game starts as from a layout file. A file that cannot
-// be read or holds no position of this program is reported and the game
-// stays as it was; false then.
+// any layout, so the game starts as from a layout file. A bare position is
+// played under the rules in play; a rules record with its start ("dim:7 ...
+// start:...") under its rules. A file that cannot be read or holds no
+// position or rules of this program is reported and the game stays as it
+// was; false then.
 bool LoadOtnFile(Game& g, const std::string& name);
 
 // Loads an OpenTafl game record (.otg, records/GameRecord.h): the game starts
-// on its start position as from an .otn file, then its positions are
+// on its start position under the record's rules, then its positions are
 // stepped through as a replayed moves log is (StepThroughLog), the board
 // left on the last one shown. A record whose moves the rules refuse is
 // stepped through up to the last move allowed, then the refusal is shown.

@@ -2,7 +2,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <sstream>
 
+#include "core/Rules.h"
 #include "support/Fixtures.h"
 #include "support/RunCli.h"
 
@@ -106,4 +108,57 @@ TEST(Cli, EachCommandPrintsItsResultOrRefusesWithItsExitCode) {
     }
     EXPECT_EQ(t.ReadFile("made.txt"), "03030202HEHE0EHEH\r\n");
     EXPECT_EQ(t.ReadFile("noking.txt"), "");
+}
+
+TEST(Cli, RulesAreListedAndEachCommandPlaysUnderTheRuleSetItIsGiven) {
+    // "rules" lists every rule set; --rules NAME (any case) plays a command under it, refuses an unknown name, and
+    // refuses what would have the classic computer players play other rules.
+    TestGame t;
+    t.CopyData();
+    t.WriteFile("game.txt", Small + "\r\n" + Moved + "\r\n" + KingMoved + "\r\n");
+    t.WriteFile("edge.txt", "07070503HEEEEEHEEEEEEEEEEEEEEEEEEEEEEE0EEEEEEEEEEEHEEEEEH\r\n");   // the King alone on c3
+    const std::string fetlar(jv::FindRules("Fetlar")->OpenTafl), brandubh(jv::FindRules("Brandubh")->OpenTafl);
+    const std::string classicOnly = ": the classic computer players are made for the classic rules alone, not for ";
+    const std::string strong = "; the strong player plays every rule set (match --attackers strong --defenders strong)\n";
+    const struct { std::string args; int exit; Lines out; std::string err; } rows[] = {
+        {"perft copenhagen.txt 3", 0, {"total: 440056"}, ""},
+        {"perft copenhagen.txt 3 --rules COPENHAGEN", 0, {"total: 806344"}, ""},
+        {"perft copenhagen.txt 1 --rules Hnefatafl", 1, {},
+         "jarlsvakt-cli: no rule set is named Hnefatafl; the rule sets: Classic Copenhagen Fetlar Brandubh Tablut "
+         "Tawlbwrdd\nusage: jarlsvakt-cli perft FILE|- DEPTH [--side attackers|defenders] [--rules NAME]\n"},
+        {"play edge.txt user:Kc3-c1--", 2, {"REFUSED user:Kc3-c1--: Kc3-c1 does not bring the King home"}, ""},
+        {"play edge.txt --rules tablut user:Kc3-c1--", 0,
+         {"MESSAGE [vbhappy+vbok]: King at Home ! / Click Reset to start a new game"}, ""},
+        {"record game.txt --rules fetlar", 0,
+         {"[rules:dim:5 " + fetlar + " start:/5/5/2K2/1t3/5/]", "", "1. b4-d4 Kc3-c2"}, ""},
+        {"otn brandubh.txt --rules brandubh", 0, {"dim:7 " + brandubh + " start:/3t3/3t3/3T3/ttTKTtt/3T3/3t3/3t3/"}, ""},
+        {"selfplay edge.txt --games 1 --rules classic", 0, {"1 games: King captured 0, King at Home 0, "
+          "King with a free run home 0, no move for the defenders 0, no move for the attackers 1, move limit 0"}, ""},
+        {"play edge.txt --auto-reply --rules tablut user:Kc3-c2 red", 1, {},
+         "jarlsvakt-cli play --auto-reply, red" + classicOnly + "Tablut" + strong},
+        {"selfplay edge.txt --games 1 --rules fetlar", 1, {}, "jarlsvakt-cli selfplay" + classicOnly + "Fetlar" + strong},
+        {"soak edge.txt --rules brandubh", 1, {}, "jarlsvakt-cli soak" + classicOnly + "Brandubh" + strong},
+        {"match --attackers strong --defenders classic --games 1 --rules fetlar edge.txt", 1, {},
+         "jarlsvakt-cli match --defenders classic" + classicOnly + "Fetlar" + strong},
+    };
+    for (const auto& r : rows) {
+        const auto result = RunCli(r.args, t.folder.string());
+        EXPECT_EQ(result.exitCode, r.exit) << r.args << "\n" << result.err;
+        for (const std::string& line : r.out)
+            EXPECT_EQ(std::count(result.out.begin(), result.out.end(), line), 1) << r.args << "\nprints no " << line;
+        EXPECT_EQ(result.err, r.err) << r.args;
+    }
+    // Each rule set's line: its name, the board of its opening, the opening's file and its OpenTafl keys.
+    const auto listed = RunCli("rules", t.folder.string());
+    const char* const boards[] = {"11x11", "11x11", "11x11", "7x7", "9x9", "11x11"};
+    ASSERT_EQ(listed.out.size(), jv::RuleSets().size());
+    for (std::size_t i = 0; i < listed.out.size(); ++i) {
+        const jv::Rules& set = jv::RuleSets()[i];
+        std::istringstream fields(listed.out[i]);
+        std::string name, board, layout, keys;
+        fields >> name >> board >> layout >> std::ws;
+        std::getline(fields, keys);
+        EXPECT_EQ(Lines({name, board, layout, keys}),
+                  Lines({std::string(set.Name), boards[i], std::string(set.Layout), std::string(set.OpenTafl)}));
+    }
 }

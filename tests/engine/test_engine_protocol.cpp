@@ -8,11 +8,14 @@
 
 #include "core/RuleBoard.h"
 #include "records/LayoutFile.h"
+#include "records/Notation.h"
 #include "records/Otn.h"
 #include "records/RulesRecord.h"
 #include "session/EngineHost.h"
+#include "session/EngineProcess.h"
 #include "session/EngineProtocol.h"
 #include "support/Fixtures.h"
+#include "support/RunCli.h"
 
 using namespace jv;
 using jv::test::TestGame;
@@ -114,11 +117,11 @@ TEST(EngineProtocol, TheEngineKeepsTheGameAndAnswersTheHost) {
         board.WriteTo(after);
     }
 
-    const Lines first = EngineAnswers({rules, "side attackers", "clock 2 2 0 0 0", "play attackers"});
+    const Lines first = EngineAnswers({rules, "side attackers", "play attackers", "clock 2 2 0 0 0"});
     EXPECT_TRUE(Legal(t.g, AttackerCode, OnlyLine(first, "move").substr(5))) << OnlyLine(first, "move");
     EXPECT_FALSE(first.empty() || first.front().rfind("status depth ", 0) != 0) << "no status line before the move";
 
-    const Lines reply = EngineAnswers({rules, "opponent-move " + opening + " " + OtnPosition(after), "play defenders"});
+    const Lines reply = EngineAnswers({rules, "opponent-move " + opening + " " + OtnPosition(after), "play defenders", "clock 2 2 0 0 0"});
     EXPECT_TRUE(Legal(after, DefenderCode, OnlyLine(reply, "move").substr(5))) << OnlyLine(reply, "move");
 
     const Lines analysis = EngineAnswers({rules, "analyze 3 1"});
@@ -131,7 +134,7 @@ TEST(EngineProtocol, TheEngineKeepsTheGameAndAnswersTheHost) {
                                          "play attackers"},
                                         &up);
     EXPECT_EQ(refused.size(), 2u) << "a refusal of the rules and of the illegal move, nothing for the rest";
-    EXPECT_EQ(OnlyLine(refused, "error").rfind("error 0 ", 0), 0u);
+    EXPECT_EQ(refused.front().rfind("error 0 ", 0), 0u) << refused.front();
     EXPECT_NE(std::find(refused.begin(), refused.end(), "error 3"), refused.end());
     EXPECT_FALSE(up) << "goodbye ends the engine";
 }
@@ -176,4 +179,31 @@ TEST(EngineProtocol, TheProgramsOwnEngineIsAPlayerOfEveryRuleSet) {
             EXPECT_TRUE(RuleBoard(t.g, side).Allows(move)) << rules.Name;
         }
     }
+}
+
+TEST(EngineProtocol, TheToolsEngineSpeaksOnlyTheProtocolAndRunsInAProcessOfItsOwn) {
+    // jarlsvakt-cli engine greets, answers a move on its clock and writes nothing but protocol lines; run as an
+    // outside engine's process, it is hosted as any other engine, and stopping it ends it.
+    TestGame t;
+    StartGame(t, "Tablut");
+    const auto result = jv::test::RunCli("engine", t.Path(""), RulesLine(t.g) + "\nplay attackers\nclock 1 1 0 0 0\n"
+                                                                              "garbage\ngoodbye\n");
+    ASSERT_EQ(result.exitCode, 0) << result.err;
+    ASSERT_FALSE(result.out.empty());
+    EXPECT_EQ(result.out.front(), "hello");
+    for (const std::string& line : result.out)
+        EXPECT_TRUE(line == "hello" || line.rfind("status ", 0) == 0 || line.rfind("move ", 0) == 0) << line;
+    EXPECT_TRUE(Legal(t.g, AttackerCode, OnlyLine(result.out, "move").substr(5))) << OnlyLine(result.out, "move");
+
+    EngineProcess process("JARLSVAKT_HOME='" + t.Path("") + "' '" JARLSVAKT_BIN_DIR "/jarlsvakt-cli' engine");
+    ASSERT_TRUE(process.Started());
+    EngineHost host(process);
+    std::string failure;
+    ASSERT_TRUE(host.Start(t.g, DefenderCode, 5000, failure)) << failure;
+    Move move;
+    ASSERT_TRUE(host.AskMove(t.g, DefenderCode, 200, move, failure)) << failure;
+    EXPECT_TRUE(RuleBoard(t.g, DefenderCode).Allows(move));
+    process.Stop();
+    std::string line;
+    EXPECT_EQ(process.Receive(line, 100), EngineLink::Read::Closed);
 }

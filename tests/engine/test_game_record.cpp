@@ -12,6 +12,7 @@
 #include "records/LayoutFile.h"
 #include "session/LayoutCommands.h"
 #include "records/PositionRecord.h"
+#include "records/RulesRecord.h"
 #include "records/TextFile.h"
 #include "session/Undo.h"
 #include "support/Fixtures.h"
@@ -28,7 +29,7 @@ const std::string Start = "07070404HEEEEEH0EEEEEEEEE1EEEEEE0EEEEEEEEEEEEEEEE1HEE
 
 // The record of a log, or "line N: reason" when it is refused.
 Lines Verdict(const Lines& log) {
-    const GameRecordResult r = MakeGameRecord(log);
+    const GameRecordResult r = MakeGameRecord(log, Rules::Classic());
     return r.Ok ? r.Lines : Lines{"line " + std::to_string(r.BadLine) + ": " + r.Reason};
 }
 
@@ -79,13 +80,15 @@ TEST(GameRecord, TheMovesOfALoggedGameAreWrittenInTurnWithTheirCapturesAndReadBa
 
 TEST(GameRecord, AnOpenTaflRecordIsReadAndEachMoveTheRulesRefuseIsReported) {
     // Another program's record replays its main line (variations skipped) by these rules, or names the first refusal.
-    const std::string brandubh = "[rules:dim:7 ks:n cenhe: cenh: start:/3t3/3t3/3T3/ttTKTtt/3T3/3t3/3t3/]\n\n";
-    const std::string kingOnC1 = "dim:7 start:/1tK1t2/2t1T2/7/7/7/7/7/\n";
+    const std::string brandubh = "[rules:dim:7 surf:n tfr:i ks:c start:/3t3/3t3/3T3/ttTKTtt/3T3/3t3/3t3/]\n\n";
+    const std::string classic = "esc:c surf:n tfr:i ka:y ks:y cenh: cenhe: ";
+    const std::string kingOnC1 = "dim:7 " + classic + "start:/1tK1t2/2t1T2/7/7/7/7/7/\n";
     const struct { std::string record; const char* verdict; } rows[] = {
         {brandubh + "1. d2-e2 c4-c5\n[a comment|\nover two lines]\n2. e2-e3 Kd4-c4-\n3. ---", "4 moves"},
         {kingOnC1 + "1. e1-d1++", "1 moves"},
-        {"[rules:dim:7 starti:/7/7/7/7/7/2t1T2/1tK1t2/]\n1. e1-d1++", "1 moves"},
-        {"[rules:dim:7 atkf:n start:/7/7/7/7/7/7/3K3/][position:/1tK1t2/2t1T2/7/7/7/7/7/]\n1. e2-e3 e1-d1++", "2 moves"},
+        {"[rules:dim:7 " + classic + "starti:/7/7/7/7/7/2t1T2/1tK1t2/]\n1. e1-d1++", "1 moves"},
+        {"[rules:dim:7 atkf:n " + classic + "start:/7/7/7/7/7/7/3K3/][position:/1tK1t2/2t1T2/7/7/7/7/7/]\n"
+         "1. e2-e3 e1-d1++", "2 moves"},
         {"1. d2-e2", "no rules record with a start position"},
         {"[rules:dim:3 start:/3/1T1/3/]", "the start position: the position has no King"},
         {"[rules:dim:9 start:/3t3/3t3/3T3/ttTKTtt/3T3/3t3/3t3/]", "the rules record gives dim:9 for a board of 7 ranks"},
@@ -108,6 +111,29 @@ TEST(GameRecord, AnOpenTaflRecordIsReadAndEachMoveTheRulesRefuseIsReported) {
     for (const auto& r : rows) {
         const OtnGameResult read = ReadOtnGame(r.record);
         EXPECT_EQ(read.Ok ? std::to_string(read.Positions.size() - 1) + " moves" : read.Reason, r.verdict) << r.record;
+    }
+}
+
+TEST(GameRecord, ARecordIsReplayedUnderTheRuleSetItsRulesRecordNames) {
+    // Each rule set's rules record replays a move only its own rules allow, which another set's rules refuse.
+    const struct { const char* set; const char* start; bool attackersFirst; const char* moves; const char* other;
+                   const char* refused; } rows[] = {
+        {"Classic", "/1tK1t2/2t1T2/7/7/7/7/7/", true, "e1-d1++", "Fetlar", "e1-d1 does not take the King"},
+        {"Copenhagen", "/1TT4/1tt4/3t3/7/3K3/7/7/", true, "d3-d1xc1/b1", "Fetlar", "d3-d1 takes nothing, not c1/b1"},
+        {"Fetlar", "/7/7/7/6K/3t3/7/3T3/", false, "d7-d6xd5", "Classic", "d7-d6 takes nothing, not d5"},
+        {"Brandubh", "/7/tK5/7/2t4/7/7/7/", true, "c4-c2++", "Fetlar", "c4-c2 does not take the King"},
+        {"Tablut", "/7/7/2K4/7/7/7/7/", false, "Kc3-c1--", "Classic", "Kc3-c1 does not bring the King home"},
+        {"Tawlbwrdd", "/7/7/2K4/7/7/7/7/", false, "Kc3-c1--", "Brandubh", "Kc3-c1 does not bring the King home"},
+    };
+    const auto record = [](const char* set, const auto& r) {
+        return "[rules:dim:7 " + RulesRecordKeys(*FindRules(set), r.attackersFirst) + " start:" + r.start + "]\n\n1. " +
+               r.moves + "\n";
+    };
+    for (const auto& r : rows) {
+        const OtnGameResult own = ReadOtnGame(record(r.set, r));
+        EXPECT_TRUE(own.Ok) << r.set << ": " << own.Reason;
+        EXPECT_EQ(own.GameRules, *FindRules(r.set));
+        EXPECT_EQ(ReadOtnGame(record(r.other, r)).Reason, "move 1 (" + std::string(r.moves) + "): " + r.refused) << r.set;
     }
 }
 
@@ -172,6 +198,25 @@ TEST(GameRecordExport, TheUndoHistoryIsWrittenAsAGameRecordThatLoadsBackToTheSam
                                         "Step 1 of 3\r\nStop ? [vbquestion+vbYesNoCancel]",
                                         "Step 2 of 3\r\nStop ? [vbquestion+vbYesNoCancel]",
                                         "Step 3 of 3\r\nStop ? [vbquestion+vbYesNoCancel]"}));
+}
+
+TEST(GameRecordExport, AGameUnderARuleSetIsWrittenWithItsRulesAndLoadsBackUnderThem) {
+    // The exported record carries the game's rule set, and Load plays the record under it again.
+    TestGame t;
+    Game& g = t.g;
+    t.WriteFile("start.txt", Start + "\r\n");
+    g.GameRules = *FindRules("Brandubh");
+    LoadLayout(g, "start.txt");
+    MakeAttackerMove(g, {{6, 7}, {6, 4}});
+    const std::string reached = LayoutLine(g);
+    t.view.FileChoices = {"brandubh.otg", "brandubh.otg"};
+    ExportGameRecordCommand(g);
+    EXPECT_EQ(t.ReadFile("brandubh.otg"), "[rules:dim:7 name:Brandubh esc:c surf:n atkf:y tfr:i ka:y ks:c cenh:tcnk "
+                                          "cenhe:tcnkTCNK start:/7/6t/7/3K3/3t3/T6/7/]\r\n\r\n1. g2-d2\r\n");
+    g.GameRules = Rules::Classic();
+    LoadCommand(g);
+    EXPECT_EQ(g.GameRules, *FindRules("Brandubh"));
+    EXPECT_EQ(LayoutLine(g), reached);
 }
 
 TEST(GameRecordExport, AnOpenTaflGameTheRulesRefuseIsSteppedToItsLastAllowedMove) {

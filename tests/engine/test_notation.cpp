@@ -127,7 +127,7 @@ TEST(Otn, APositionTheReaderWouldRefuseIsNeverWritten) {
         const WriteResult written = WriteOtnFile(t.g, t.Path("saved.otn"));
         EXPECT_EQ(written.Refusal, *r.refusal ? "cannot hold this position: " + std::string(r.refusal) : "") << r.layout;
         EXPECT_EQ(t.ReadFile("saved.otn").empty(), !written.Ok()) << r.layout;
-        const GameRecordResult record = MakeGameRecord({r.layout});
+        const GameRecordResult record = MakeGameRecord({r.layout}, t.g.GameRules);
         EXPECT_EQ(record.Ok ? "written" : "line " + std::to_string(record.BadLine) + ": " + record.Reason, r.record)
             << r.layout;
     }
@@ -150,4 +150,31 @@ TEST(OtnFiles, AnOtnFileIsLoadedAndSavedLikeALayout) {
     EXPECT_EQ(LayoutLine(g), BrandubhLine);
     SaveCommand(g);
     EXPECT_EQ(t.ReadFile("opening.OTN"), std::string(BrandubhOtn) + "\r\n");
+}
+
+TEST(OtnFiles, APositionUnderAnotherRuleSetIsSavedWithItsRulesRecordAndLoadsBackUnderThem) {
+    // Under any rule set but the classic an .otn file holds the rules record with the position, and loads back
+    // under those rules; a bare position keeps the rules in play, and a rules record they cannot play is refused.
+    TestGame t;
+    Game& g = t.g;
+    const Rules& tablut = *FindRules("Tablut");
+    t.WriteFile("brandubh.otn", std::string(BrandubhOtn) + "\r\n");
+    t.WriteFile("weak.otn", "dim:7 ks:w start:" + std::string(BrandubhOtn) + "\r\n");
+    t.view.FileChoices = {"brandubh.otn", "tablut.otn", "tablut.otn", "brandubh.otn", "weak.otn"};
+    LoadCommand(g);
+    EXPECT_EQ(g.GameRules, Rules::Classic());
+    g.GameRules = tablut;
+    SaveCommand(g);
+    EXPECT_EQ(t.ReadFile("tablut.otn"), "dim:7 " + std::string(tablut.OpenTafl) + " start:" + BrandubhOtn + "\r\n");
+    g.GameRules = Rules::Classic();
+    LoadCommand(g);
+    EXPECT_EQ(g.GameRules, tablut);
+    EXPECT_EQ(LayoutLine(g), BrandubhLine);
+    LoadCommand(g);
+    EXPECT_EQ(g.GameRules, tablut);
+    LoadCommand(g);
+    EXPECT_EQ(t.view.Messages().back(), "OpenTafl Position File:\r\nweak.otn\r\nholds no position JarlsVakt can play: "
+                                        "the rules record's ks:w asks for a King weaker than strong (s) or strong on "
+                                        "and beside the throne (c), which JarlsVakt cannot play [vbcritical+vbok]");
+    EXPECT_EQ(g.GameRules, tablut);
 }
