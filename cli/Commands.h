@@ -29,6 +29,7 @@ int RunRecord(const Args& args);
 int RunBestmove(const Args& args);
 int RunMatch(const Args& args);
 int RunRules(const Args& args);
+int RunEngine(const Args& args);
 
 // A game set up for one command: its own view, the program's folder and the
 // column letters.

@@ -1,0 +1,42 @@
+#pragma once
+#include <string>
+
+#include "core/Game.h"
+#include "session/EngineLink.h"
+
+namespace jv {
+
+// An outside engine of the OpenTafl Engine Protocol as the player of a side:
+// it is told the rules and the opening, each move of its opponent, and asked
+// for its own moves on its clock. Every move it sends is checked by the rule
+// board before anyone makes it; an engine that sends an illegal move, ends,
+// stays silent past its clock or writes what is not the protocol has lost,
+// and the reason says what it did.
+
+class EngineHost {
+public:
+    explicit EngineHost(EngineLink& link) : link_(link) {}
+
+    // Waits for the engine's hello, then tells it the rules and the opening
+    // of the game and the side it plays. False with the reason.
+    bool Start(const Position& g, int side, int startMillis, std::string& failure);
+    // The engine's move for its side in the position, within millis of
+    // thinking (and a margin); false with what the engine did wrong.
+    bool AskMove(const Position& g, int side, int millis, Move& move, std::string& failure);
+    // Tells the engine the opponent's move and the position it leaves.
+    void TellMove(const Move& m, const Position& after);
+    // Tells the engine the game's end (2 the attackers won, 3 the defenders,
+    // 1 a draw), says goodbye and ends it.
+    void Finish(int result);
+
+private:
+    bool ReadLine(std::string& line, int millis, std::string& failure);
+
+    EngineLink& link_;
+    bool ended_ = false;
+};
+
+// A move in the protocol's simple notation ("a4-a1").
+std::string SimpleMoveText(const Position& g, const Move& m);
+
+}  // namespace jv
