@@ -1,6 +1,7 @@
 #include <chrono>
 #include <iomanip>
 #include <iostream>
+#include <memory>
 
 #include "session/ComputerMoves.h"
 #include "ai/Search.h"
@@ -10,6 +11,8 @@
 #include "cli/SearchText.h"
 #include "core/Board.h"
 #include "core/Move.h"
+#include "session/EngineHost.h"
+#include "session/EngineProcess.h"
 #include "session/PlayerMoves.h"
 
 namespace jv::cli {
@@ -17,16 +20,22 @@ namespace jv::cli {
 namespace {
 
 const char* const MatchUsage =
-    "usage: jarlsvakt-cli match --attackers classic|strong[:MS] --defenders classic|strong[:MS] --games N "
-    "[--openings K] [--seed S] [--rules NAME] LAYOUT...\n";
+    "usage: jarlsvakt-cli match --attackers PLAYER --defenders PLAYER --games N [--openings K] [--seed S] "
+    "[--rules NAME] LAYOUT...\n"
+    "  PLAYER: classic | strong[:MS] | engine[:MS]:COMMAND (an OpenTafl engine started by the shell)\n";
 
 // A game of more moves than this (the opening's random moves aside) is a draw.
 constexpr int MaxGameMoves = 300;
 
-// A side's player: the classic ranking, or the strong player thinking Millis a move.
+// How long an outside engine may take to greet its host.
+constexpr int EngineStartMillis = 10000;
+
+// A side's player: the classic ranking, the strong player thinking Millis a
+// move, or an outside engine started from its command line, given Millis a move.
 struct Player {
     bool Strong = false;
     int Millis = 200;
+    std::string Engine;   // the engine's command line; empty for the program's own players
 };
 
 struct MatchOptions {
@@ -36,15 +45,29 @@ struct MatchOptions {
     std::vector<std::string> Layouts;
 };
 
+// The "MS" of "strong:MS" or "engine:MS:COMMAND", when the text holds one at `at`.
+bool ReadMillis(const std::string& text, std::size_t at, Player& p) {
+    long long ms = 0;
+    if (!ReadCount(text.substr(at), ms) || ms == 0) return false;
+    p.Millis = static_cast<int>(ms);
+    return true;
+}
+
 bool ReadPlayer(const std::string& text, Player& p) {
     if (text == "classic") return true;
+    if (text.rfind("engine:", 0) == 0) {
+        p.Strong = true;   // the engine plays any rule set, as the strong player does
+        p.Millis = 1000;
+        std::string rest = text.substr(7);
+        const std::size_t colon = rest.find(':');
+        if (colon != std::string::npos && ReadMillis(rest.substr(0, colon), 0, p)) rest = rest.substr(colon + 1);
+        p.Engine = rest;
+        return !p.Engine.empty();
+    }
     if (text.rfind("strong", 0) != 0) return false;
     p.Strong = true;
     if (text == "strong") return true;
-    long long ms = 0;
-    if (text[6] != ':' || !ReadCount(text.substr(7), ms) || ms == 0) return false;
-    p.Millis = static_cast<int>(ms);
-    return true;
+    return text[6] == ':' && ReadMillis(text, 7, p);
 }
 
 bool ParseOptions(const Args& args, MatchOptions& o) {
@@ -64,7 +87,29 @@ bool ParseOptions(const Args& args, MatchOptions& o) {
     return ReadArguments(args, layout, option) && attackers && defenders && o.Games > 0 && !o.Layouts.empty();
 }
 
-std::string PlayerName(const Player& p) { return p.Strong ? "strong:" + std::to_string(p.Millis) : "classic"; }
+std::string PlayerName(const Player& p) {
+    if (!p.Engine.empty()) return "engine:" + std::to_string(p.Millis) + ":" + p.Engine;
+    return p.Strong ? "strong:" + std::to_string(p.Millis) : "classic";
+}
+
+// The outside engines of a game, one per side that has one, each in its own process.
+struct GameEngines {
+    std::unique_ptr<EngineProcess> Process[2];
+    std::unique_ptr<EngineHost> Host[2];
+};
+
+// The move the side made between the two positions: the square its piece
+// left and the square it came to.
+Move MoveMade(const Position& before, const Position& after, int side) {
+    Move m;
+    for (int col = 1; col <= before.BoardWidth; ++col)
+        for (int row = 1; row <= before.BoardHeight; ++row) {
+            const bool was = before.Board(col, row) == side, is = after.Board(col, row) == side;
+            if (was && !is) m.From = Square{col, row};
+            if (!was && is) m.To = Square{col, row};
+        }
+    return m;
+}
 
 enum class Outcome { AttackersWin, DefendersWin, Draw };
 
@@ -75,9 +120,22 @@ struct LayoutTally {
 };
 
 // One move of the side's player; false when it made none. The strong player
-// is told the positions played so far.
-bool PlayMove(Game& g, int side, const Player& p, const std::vector<std::uint64_t>& played) {
+// is told the positions played so far; an engine that does something wrong
+// has lost, and the reason is printed.
+bool PlayMove(Game& g, int side, const Player& p, const std::vector<std::uint64_t>& played, GameEngines& engines) {
     const std::size_t records = g.Undo.size();
+    if (engines.Host[side]) {
+        Move m;
+        std::string failure;
+        if (!engines.Host[side]->AskMove(g, side, p.Millis, m, failure)) {
+            std::cout << "the " << (side == AttackerCode ? "attackers'" : "defenders'") << " engine lost: " << failure
+                      << '\n';
+            return false;
+        }
+        if (side == DefenderCode) MakeDefenderMove(g, m);
+        else MakeAttackerMove(g, m);
+        return true;
+    }
     if (!p.Strong) {
         if (side == DefenderCode) MakeGreenAutoMove(g);
         else MakeRedAutoMove(g);
@@ -98,21 +156,45 @@ bool PlayMove(Game& g, int side, const Player& p, const std::vector<std::uint64_
 }
 
 // The side to move has lost when the King is taken or home, or it cannot move.
-Outcome PlayGame(Game& g, const MatchOptions& o, int side, LayoutTally& tally) {
+Outcome PlayMoves(Game& g, const MatchOptions& o, int side, LayoutTally& tally, GameEngines& engines) {
     std::vector<std::uint64_t> played;
     for (int moves = 0; moves < MaxGameMoves; ++moves) {
         if (KingAtHome(g) || (side == DefenderCode && KingHasFreeRun(g))) return Outcome::DefendersWin;
         if (g.GameOver) return Outcome::AttackersWin;
         const auto started = std::chrono::steady_clock::now();
         played.push_back(PositionKey(g, side));
-        const bool moved = PlayMove(g, side, o.Players[side], played);
+        const Position before = g;
+        const bool moved = PlayMove(g, side, o.Players[side], played, engines);
         tally.Seconds[side] += std::chrono::duration<double>(std::chrono::steady_clock::now() - started).count();
         if (!moved) return side == DefenderCode ? Outcome::AttackersWin : Outcome::DefendersWin;
+        if (engines.Host[side ^ 1]) engines.Host[side ^ 1]->TellMove(MoveMade(before, g, side), g);
         ++tally.SideMoves[side];
         ++tally.Moves;
         side ^= 1;
     }
     return Outcome::Draw;
+}
+
+// A game from the position after its opening: the engines are started and
+// told the position, the moves are played, and the engines told the result.
+Outcome PlayGame(Game& g, const MatchOptions& o, int side, LayoutTally& tally) {
+    GameEngines engines;
+    for (int s : {AttackerCode, DefenderCode}) {
+        if (o.Players[s].Engine.empty()) continue;
+        engines.Process[s] = std::make_unique<EngineProcess>(o.Players[s].Engine);
+        engines.Host[s] = std::make_unique<EngineHost>(*engines.Process[s]);
+        std::string failure;
+        if (!engines.Process[s]->Started() || !engines.Host[s]->Start(g, s, EngineStartMillis, failure)) {
+            std::cout << "the " << (s == AttackerCode ? "attackers'" : "defenders'")
+                      << " engine lost: " << (failure.empty() ? "it could not be started" : failure) << '\n';
+            return s == AttackerCode ? Outcome::DefendersWin : Outcome::AttackersWin;
+        }
+    }
+    const Outcome outcome = PlayMoves(g, o, side, tally, engines);
+    const int result = outcome == Outcome::AttackersWin ? 2 : outcome == Outcome::DefendersWin ? 3 : 1;
+    for (auto& host : engines.Host)
+        if (host) host->Finish(result);
+    return outcome;
 }
 
 // The game's position after the opening's seeded random moves, the rules'

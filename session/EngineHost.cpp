@@ -1,5 +1,6 @@
 #include "session/EngineHost.h"
 
+#include <cstdio>
 #include <sstream>
 
 #include "core/Board.h"
@@ -50,9 +51,12 @@ bool EngineHost::ReadLine(std::string& line, int millis, std::string& failure) {
     switch (link_.Receive(line, millis)) {
         case EngineLink::Read::Line: return true;
         case EngineLink::Read::Closed: failure = "the engine ended"; break;
-        case EngineLink::Read::TimedOut:
-            failure = "the engine did not answer within " + std::to_string((millis + 999) / 1000) + " s";
+        case EngineLink::Read::TimedOut: {
+            char seconds[32];
+            std::snprintf(seconds, sizeof seconds, "%.1f", millis / 1000.0);
+            failure = "the engine did not answer within " + std::string(seconds) + " s";
             break;
+        }
     }
     link_.Stop();
     ended_ = true;

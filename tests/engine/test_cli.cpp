@@ -80,6 +80,9 @@ TEST(Cli, EachCommandPrintsItsResultOrRefusesWithItsExitCode) {
         {"play pattern1.txt 'user:0304>0302' red", "", 0, {"  Player1 Move C4 > C2"}, ""},
         {"play pattern1.txt user:d5b5", "", 1, {}, "?"},
         {"play nothere.txt", "", 2, {"MESSAGE [vbcritical+vbok]: Error reading Layout File: / nothere.txt"}, "?"},
+        {"match --attackers 'engine:100:exit 3' --defenders strong:50 --games 1 pattern1.txt", "", 0,
+         {"the attackers' engine lost: the engine ended", "pattern1.txt: attackers win 0, defenders win 1, draws 0; "
+          "0.0 moves a game; 0.0 ms a move for the attackers, 0.0 ms for the defenders"}, ""},
         {"perft pattern1.txt 1", "", 0, {"0304>0303: 1", "total: 24"}, ""},
         {"perft pattern1.txt 2 --side attackers", "", 0, {"total: 960"}, ""},
         {"rank defenders patf.txt --mode 2", "", 1, {}, "?"},

@@ -148,7 +148,7 @@ TEST(EngineProtocol, AnOutsideEngineLosesForWhatItDoesWrong) {
         {"a legal move after its thinking", {"hello", "status depth 1", "move k4-i4"}, ""},
         {"an illegal move", {"hello", "move k4-k1"}, "the engine sent the illegal move \"k4-k1\""},
         {"an engine that ends", {"hello", "<closed>"}, "the engine ended"},
-        {"silence", {"hello", "<silent>"}, "the engine did not answer within 2 s"},
+        {"silence", {"hello", "<silent>"}, "the engine did not answer within 1.0 s"},
         {"garbage", {"hello", "I resign"}, "the engine wrote what is not the protocol: \"I resign\""},
     };
     for (const auto& r : rows) {
