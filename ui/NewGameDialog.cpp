@@ -34,6 +34,7 @@ NewGameDialog::NewGameDialog(const Game& game, QWidget* parent) : QDialog(parent
     side_->setCurrentIndex(g_.Players.UserSide == AttackerCode);
 
     auto* buttons = new QDialogButtonBox;
+    buttons->setObjectName("NewGameButtons");
     QPushButton* start = buttons->addButton("Start", QDialogButtonBox::AcceptRole);
     start->setObjectName("NewGameStart");
     start->setDefault(true);

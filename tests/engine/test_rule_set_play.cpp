@@ -1,12 +1,12 @@
 // The game under a rule set other than the classic one: its board, the ends the rule board decides and their
-// announcements, a shieldwall taken through the game's own move, the pointer's squares, the rules file and the
-// automatic game.
+// announcements, a shieldwall taken through the game's own move, the pointer's squares, the rules file at
+// start-up and the automatic game.
 #include <gtest/gtest.h>
 
 #include "core/Board.h"
 #include "records/LayoutFile.h"
 #include "records/PositionRecord.h"
-#include "records/RuleSettings.h"
+#include "session/NewGame.h"
 #include "session/PlayerMoves.h"
 #include "session/Pointer.h"
 #include "session/SelfPlay.h"
@@ -133,24 +133,29 @@ TEST(RuleSetPointer, APieceIsOfferedTheSquaresTheRulesAllow) {
     }
 }
 
-TEST(RuleSettings, ReadsTheRuleSetAndItsOpeningOrRefusesTheTextWhole) {
-    // The file names a rule set the program plays and an opening that may hold blanks; any other line refuses
-    // the text and leaves the choice as it was; what is written reads back the same.
-    const struct { const char* text; bool ok; RuleChoice after; } rows[] = {
-        {"rules copenhagen\r\nopening my layouts/a b.txt\r\n", true, {"Copenhagen", "my layouts/a b.txt"}},
-        {"rules Tablut\n", true, {"Tablut", ""}},
-        {"rules chess\n", false, {}},
-        {"opening\n", false, {}},
-        {"rules Tablut\nplayers two\n", false, {}},
-        {"", true, {}},
+TEST(RulesFile, StartUpPlaysTheRulesAndTheOpeningItKeepsElseTheClassicGame) {
+    // A readable rules.cfg gives the start its rule set and its opening (a name may hold blanks) and is written
+    // back as it was read; a file with a line that is no setting of the rules is refused whole, and the classic
+    // game starts on the configuration's layout.
+    const struct { const char* text; const char* rules; const char* layout; } rows[] = {
+        {"rules copenhagen\r\nopening my copenhagen.txt\r\n", "Copenhagen", "my copenhagen.txt"},
+        {"rules Tablut\n", "Tablut", "patf.txt"},
+        {"rules chess\n", "Classic", "patf.txt"},
+        {"rules Tablut\nopening\n", "Classic", "patf.txt"},
+        {"rules Tablut\nplayers two\n", "Classic", "patf.txt"},
     };
     for (const auto& r : rows) {
-        RuleChoice choice;
-        EXPECT_EQ(ReadRulesText(choice, r.text).Ok(), r.ok) << r.text;
-        EXPECT_EQ(choice, r.after) << r.text;
-        RuleChoice again;
-        ASSERT_TRUE(ReadRulesText(again, RulesText(choice)).Ok());
-        EXPECT_EQ(again, choice);
+        TestGame t;
+        t.CopyData();
+        t.WriteFile("my copenhagen.txt", t.ReadFile("copenhagen.txt"));
+        t.WriteFile("rules.cfg", r.text);
+        ASSERT_TRUE(StartUp(t.g)) << r.text;
+        EXPECT_EQ(std::tuple(std::string(t.g.GameRules.Name), t.g.LayoutFile), std::tuple(r.rules, r.layout)) << r.text;
+        ASSERT_TRUE(WriteRules(t.g));
+        Game again;
+        again.ProgramFolder = t.g.ProgramFolder;
+        ReadRules(again);
+        EXPECT_EQ(std::tuple(std::string(again.GameRules.Name), again.LayoutFile), std::tuple(r.rules, r.layout)) << r.text;
     }
 }
 
