@@ -26,7 +26,7 @@ GameEnd EndOf(GameEnding ending) {
 
 // The sides in turn from the side to move, until the game ends, a side makes
 // no move or the limit is reached.
-AutoGameResult PlayUnderRuleSet(Game& g, int maxMoves) {
+AutoGameResult AutoGameUnderRuleSet(Game& g, int maxMoves) {
     AutoGameResult result;
     for (int side = SideToMove(g); !g.GameOver; side = OtherSide(side)) {
         if (result.Moves >= maxMoves) return result;
@@ -47,7 +47,7 @@ AutoGameResult PlayUnderRuleSet(Game& g, int maxMoves) {
 bool KingHasFreeRun(const Game& g) { return RuleBoard(g, DefenderCode).KingRoutes() > 0; }
 
 AutoGameResult PlayAutoGame(Game& g, int maxMoves) {
-    if (!PlaysClassicRules(g)) return PlayUnderRuleSet(g, maxMoves);
+    if (!PlaysClassicRules(g)) return AutoGameUnderRuleSet(g, maxMoves);
     AutoGameResult result;
     auto ended = [&](GameEnd end) {
         result.End = end;

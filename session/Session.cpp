@@ -61,12 +61,12 @@ void AutoGame(Game& g) {
         g.StopThinking = true;
         return;
     }
-    // Runs on after a game has ended: only the user's stop or the program's
-    // end stops it, at once, even between the two moves of a round.
+    // The user's stop or the program's end stops it at once, even between
+    // the two moves of a round. Under the classic rules it runs on after a
+    // game has ended, the defenders moving first in every round; under any
+    // other rule set the sides move in turn from the side to move, and the
+    // end of the game stops it too.
     g.AutoGameRunning = true;
-    // Under the classic rules it runs on after a game has ended, the
-    // defenders moving first in every round; under any other rule set the
-    // sides move in turn from the side to move, until the game ends.
     const auto goesOn = [&g] { return g.AutoGameRunning && !g.Ending && (PlaysClassicRules(g) || !g.GameOver); };
     while (goesOn()) {
         const std::string before = EncodePosition(g);
