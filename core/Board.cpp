@@ -41,6 +41,7 @@ void NewBoard(Game& g, int width, int height) {
     g.DragSource = Square{};
     g.View->HideDragLine();
     g.GameOver = false;
+    g.Result = GameEnding::None;
     g.BoardEnabled = true;
     g.View->EnableBoard(true);
     g.List1A.clear();
@@ -49,11 +50,22 @@ void NewBoard(Game& g, int width, int height) {
 }
 
 void SetHomeSquares(Position& g, int code) {
-    g.Board(1, 1) = code;
-    g.Board(g.BoardWidth, 1) = code;
-    g.Board(1, g.BoardHeight) = code;
-    g.Board(g.BoardWidth, g.BoardHeight) = code;
+    const bool home = HasHomeCorners(g);
+    for (int col : {1, g.BoardWidth})
+        for (int row : {1, g.BoardHeight}) {
+            int& square = g.Board(col, row);
+            if (home) square = code;
+            else if (square == HomeCode) square = EmptyCode;
+        }
 }
+
+bool PlaysClassicRules(const Position& g) { return g.GameRules == Rules::Classic(); }
+
+bool HasHomeCorners(const Position& g) { return g.GameRules.KingEscape == Escape::Corners; }
+
+bool IsHomeSquare(const Position& g, int col, int row) { return HasHomeCorners(g) && IsCorner(g, col, row); }
+
+bool HasThrone(const Position& g) { return g.GameRules.CentreForKingOnly && g.GameRules.ThroneHostile; }
 
 bool IsKingOn(const Position& g, int col, int row) { return col == g.KingCol && row == g.KingRow; }
 

@@ -12,8 +12,24 @@ namespace jv {
 // clears the event log. It places no pieces.
 void NewBoard(Game& g, int width, int height);
 
-// Writes code into the four Home corners and nowhere else.
+// Writes code into the four Home corners and nowhere else. A board without
+// Home corners has ordinary corners: a Home marker read onto one (a layout
+// written for the corners) is cleared there, and a piece stays.
 void SetHomeSquares(Position& g, int code);
+
+// True when the game is played under the program's own rules.
+bool PlaysClassicRules(const Position& g);
+
+// True when the board has Home corners: the rule set's King escapes onto a
+// corner. Where he escapes on the edge the corners are ordinary squares.
+bool HasHomeCorners(const Position& g);
+
+// True for the four corners of a board that has Home corners.
+bool IsHomeSquare(const Position& g, int col, int row);
+
+// True when the centre is a throne: only the King stops on it, and it closes
+// a sandwich. The classic centre is no throne.
+bool HasThrone(const Position& g);
 
 // True when the King stands on one of the four corners.
 bool KingAtHome(const Position& g);

@@ -111,6 +111,21 @@ struct Settings {
     PlayerChoice Players;                         // kept in the players' file
 };
 
+// How a game has ended: the King home (on a corner, or on the edge under a
+// rule set that escapes there), taken, safe in an exit fort, every defender
+// encircled, a side left without a move, or a position come round a third
+// time. None while the game goes on.
+enum class GameEnding : std::uint8_t {
+    None,
+    KingHome,
+    KingTaken,
+    KingInFort,
+    DefendersEncircled,
+    AttackersWithoutMove,
+    DefendersWithoutMove,
+    Repetition,
+};
+
 // The session: files, switches, the piece in hand, the game's progress, the
 // chance generator, the clock and the view.
 struct SessionState {
@@ -128,6 +143,7 @@ struct SessionState {
     Grid<int> EditorGrid;        // the layout editor's position: board codes, 99 the King
     bool BoardEnabled = true;    // Picture1 takes pointer input; false once a game ends
     bool GameOver = false;       // the King has been captured or is at Home
+    GameEnding Result = GameEnding::None;   // how the game ended, once it has
     bool Ending = false;         // the program is ending
     bool AutoGameRunning = false;   // the automatic game is playing; a press of AutoGame stops it
     bool StopThinking = false;      // the user asked the strong player to stop at once

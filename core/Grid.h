@@ -20,6 +20,8 @@ public:
 
     void Fill(const T& value) { cells_.fill(value); }
 
+    bool operator==(const Grid&) const = default;
+
     // Flat element number: col + 19 * row + 40, row after row of 19.
     static constexpr int Index(int col, int row) { return col + Span * row + 40; }
 

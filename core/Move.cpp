@@ -1,5 +1,8 @@
 #include "core/Move.h"
 
+#include <algorithm>
+#include <vector>
+
 #include "core/Analysis.h"
 #include "core/Board.h"
 #include "core/DrawCode.h"
@@ -24,13 +27,22 @@ void RepaintDestination(Game& g, int col, int row) {
 }
 
 
-// The first piece that the piece on the square takes on the board as it
-// stands, as the rule board finds it; false when it takes none.
-bool FirstVictim(const Game& g, const Square& at, Square& victim) {
-    std::uint8_t taken[MoveUndo::MaxTaken];
-    if (RuleBoard(g, DefenderCode).TakenBy(CellOf(at), taken) == 0) return false;
-    victim = Square{ColOf(taken[0]), RowOf(taken[0])};
-    return true;
+// The first piece that the piece on the square takes, as the rule board
+// finds it on the board as it stands with the pieces this capture has taken
+// already put back, those skipped; false when there is none. A move's
+// captures are taken together and only shown one at a time: the pieces of a
+// shieldwall hold each other up until the last is gone.
+bool NextVictim(const Game& g, const Square& at, const std::vector<Square>& taken, Square& victim) {
+    Position board = g;
+    const int enemy = g.Board(at.Col, at.Row) == AttackerCode ? DefenderCode : AttackerCode;
+    for (const Square& s : taken) board.Board(s.Col, s.Row) = enemy;
+    std::uint8_t cells[MoveUndo::MaxTaken];
+    const int n = RuleBoard(board, DefenderCode).TakenBy(CellOf(at), cells);
+    for (int i = 0; i < n; ++i) {
+        victim = Square{ColOf(cells[i]), RowOf(cells[i])};
+        if (std::find(taken.begin(), taken.end(), victim) == taken.end()) return true;
+    }
+    return false;
 }
 
 }  // namespace
@@ -81,19 +93,27 @@ void CaptureAround(Game& g, int col, int row) {
     const int gameNumber = g.GameNumber;
     const Square at{col, row};
     HideDragLine(g);
+    std::vector<Square> taken;
+    Grid<std::int32_t> left = g.Board;   // the board as the capture has left it
     for (;;) {
         const int mover = g.Board(col, row);
         Square victim;
-        if (!FirstVictim(g, at, victim)) return;
+        if (!NextVictim(g, at, taken, victim)) return;
         g.View->MarkVictim(victim.Col, victim.Row);
         g.View->Pause(1000);
         if (!GameGoesOn(g, gameNumber)) return;
         // An undo or another move made during the pause may have moved any
-        // of them: the victim is taken only when the same piece still takes
-        // it on the board as it now stands; otherwise the search starts again.
+        // of them: the capture starts again from the board as it now stands,
+        // and the victim is taken only when the same piece still takes it.
+        if (!(g.Board == left)) {
+            taken.clear();
+            left = g.Board;
+        }
         Square again;
-        if (g.Board(col, row) != mover || !FirstVictim(g, at, again) || again != victim) continue;
+        if (g.Board(col, row) != mover || !NextVictim(g, at, taken, again) || again != victim) continue;
         g.Board(victim.Col, victim.Row) = EmptyCode;
+        taken.push_back(victim);
+        left = g.Board;
         PrintLog(g, "  Player" + Str(mover + 1) + " captures " + SquareName(g, victim.Col, victim.Row), mover + 1, 0);
         g.View->DrawSquare(victim.Col, victim.Row, BoardBackColourValue(g));
     }

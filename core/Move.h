@@ -12,7 +12,9 @@ void AnimateMove(Game& g, const Move& m);
 
 // Takes the pieces that the piece which has just moved to (col, row) takes
 // by the rule board, one second apart: each is marked, and after the pause
-// taken only when it still is on the board as it then stands.
+// taken only when it still is taken on the board as it then stands, with the
+// pieces this move has taken already counted as standing (so that every
+// piece of a shieldwall goes).
 void CaptureAround(Game& g, int col, int row);
 
 // True when the King stands taken, as the rule board finds him.

@@ -9,7 +9,7 @@
 
 namespace jv {
 
-std::string EncodePosition(const Game& g) {
+std::string EncodePosition(const Position& g) {
     std::string record = Format(g.KingCol, "00") + Format(g.KingRow, "00");
     record.reserve(record.size() + static_cast<std::size_t>(g.BoardWidth * g.BoardHeight));
     // The letter is deliberately not reset between squares: a square with an

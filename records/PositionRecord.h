@@ -8,7 +8,7 @@ namespace jv {
 // The text form of a whole position: KingCol and KingRow as two digits each,
 // then one letter per square, column by column ("H" Home, "E" empty, "0"
 // defender, "1" attacker). Undo, the moves log and layout files share it.
-std::string EncodePosition(const Game& g);
+std::string EncodePosition(const Position& g);
 
 // Sets the King's square and the squares from a position record (a letter
 // that is none of the four leaves its square as it was; letters past the

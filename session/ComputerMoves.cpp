@@ -162,8 +162,18 @@ void PlayStrongMove(Game& g, int side) {
 
 }  // namespace
 
+PlayerKind PlayerOf(const Game& g, int side) {
+    if (!PlaysClassicRules(g)) return PlayerKind::Strong;
+    return side == AttackerCode ? g.Players.Attackers : g.Players.Defenders;
+}
+
+void MakeAutoMove(Game& g, int side) {
+    if (side == AttackerCode) MakeRedAutoMove(g);
+    else MakeGreenAutoMove(g);
+}
+
 void MakeRedAutoMove(Game& g) {
-    if (g.Players.Attackers == PlayerKind::Strong) {
+    if (PlayerOf(g, AttackerCode) == PlayerKind::Strong) {
         PlayStrongMove(g, AttackerCode);
         return;
     }
@@ -194,7 +204,7 @@ void MakeRedAutoMove(Game& g) {
 }
 
 void MakeGreenAutoMove(Game& g) {
-    if (g.Players.Defenders == PlayerKind::Strong) {
+    if (PlayerOf(g, DefenderCode) == PlayerKind::Strong) {
         PlayStrongMove(g, DefenderCode);
         return;
     }

@@ -6,6 +6,14 @@
 
 namespace jv {
 
+// The player that plays side in this game: the one chosen under the classic
+// rules; under any other rule set the strong player, the classic players
+// knowing the classic rules only.
+PlayerKind PlayerOf(const Game& g, int side);
+
+// The computer's move for side: MakeRedAutoMove or MakeGreenAutoMove.
+void MakeAutoMove(Game& g, int side);
+
 // The computer's move for the attackers: ranks every attacker move and plays
 // the best, ties drawn at random. A drawn move the position does not allow is
 // replaced by the first legal line of List1A, else by the strong player's

@@ -21,8 +21,8 @@ Square EditorKingSquare(const Game& g) {
     return {};
 }
 
-// What a square holds once the King has left it: a corner is Home again.
-int LeftByTheKing(const Game& g, int col, int row) { return IsCorner(g, col, row) ? HomeCode : EmptyCode; }
+// What a square holds once the King has left it: a Home corner is Home again.
+int LeftByTheKing(const Game& g, int col, int row) { return IsHomeSquare(g, col, row) ? HomeCode : EmptyCode; }
 
 }  // namespace
 
@@ -73,7 +73,7 @@ bool PlaceInEditor(Game& g, int col, int row, int kind) {
     if (!g.EditorOn || !OnBoard(g, col, row)) return false;
     if (kind != AttackerCode && kind != DefenderCode && kind != EmptyCode && kind != EditorKingCode) return false;
     int& square = g.EditorGrid(col, row);
-    if (square == EditorKingCode || IsCorner(g, col, row)) return false;
+    if (square == EditorKingCode || IsHomeSquare(g, col, row)) return false;
     if (square == kind) return false;
     if (kind == EditorKingCode) {
         const Square king = EditorKingSquare(g);

@@ -5,27 +5,14 @@
 #include "core/GameView.h"
 #include "core/Move.h"
 #include "core/RuleBoard.h"
+#include "records/PositionRecord.h"
 #include "session/ComputerMoves.h"
+#include "session/GameEnding.h"
 #include "session/Undo.h"
 
 namespace jv {
 
 namespace {
-
-const char* const ResetHint = "\r\nClick Reset to start a new game";
-
-// The end of a game: the message, pending events, and the board stops
-// taking pointer input. Buttons and menus stay available.
-void EndGame(Game& g, const std::string& headline, const char* style) {
-    const int gameNumber = g.GameNumber;
-    g.View->Show(headline + ResetHint, style);
-    g.View->DoEvents();
-    // A reset clicked meanwhile has begun the next game: its board stays open.
-    if (g.GameNumber != gameNumber) return;
-    g.GameOver = true;
-    g.BoardEnabled = false;
-    g.View->EnableBoard(false);
-}
 
 void MoveAndMark(Game& g, const Move& m) {
     MovePiece(g, m);
@@ -43,9 +30,39 @@ bool ShowComputerMove(Game& g, const Move& m) {
     return GameGoesOn(g, gameNumber) && g.Board(m.From.Col, m.From.Row) == from && g.Board(m.To.Col, m.To.Row) == to;
 }
 
+// A move under a rule set other than the classic one, once shown: recorded,
+// made and its captures taken in the game's order, then the end the rule
+// board foresaw on a copy announced. True when the game goes on.
+bool PlayUnderRuleSet(Game& g, int side, const Move& m) {
+    const MoveEnd end = ForeseeMove(g, side, m);
+    const int gameNumber = g.GameNumber;
+    RecordMove(g);
+    MoveAndMark(g, m);
+    CaptureAround(g, m.To.Col, m.To.Row);
+    if (!GameGoesOn(g, gameNumber)) return false;
+    AnalysePosition(g);
+    // An undo or another move during the captures' pauses has put another
+    // position on the board: the end foreseen is not this board's.
+    if (end.Ending == GameEnding::None || EncodePosition(g) != end.After) return true;
+    HideDragLine(g);
+    AnnounceEnding(g, end.Ending);
+    return false;
+}
+
+// After the user's move the computer answers with the other side, when it
+// is to.
+void AnswerDrop(Game& g, int mover) {
+    HideDragLine(g);
+    if (g.Check1) MakeAutoMove(g, OtherSide(mover));
+}
+
 }  // namespace
 
 void MakeAttackerMove(Game& g, const Move& m) {
+    if (!PlaysClassicRules(g)) {
+        if (ShowComputerMove(g, m)) PlayUnderRuleSet(g, AttackerCode, m);
+        return;
+    }
     RecordMove(g);
     if (!ShowComputerMove(g, m)) return;
     MoveAndMark(g, m);
@@ -53,7 +70,7 @@ void MakeAttackerMove(Game& g, const Move& m) {
         // The King's capture is the whole move: no sandwich is taken and the
         // position is not analysed.
         HideDragLine(g);
-        EndGame(g, "King Captured !", "vbcritical+vbok");
+        EndGame(g, GameEnding::KingTaken, "King Captured !", "vbcritical+vbok");
         return;
     }
     CaptureAround(g, m.To.Col, m.To.Row);
@@ -61,6 +78,10 @@ void MakeAttackerMove(Game& g, const Move& m) {
 }
 
 void MakeDefenderMove(Game& g, const Move& m) {
+    if (!PlaysClassicRules(g)) {
+        if (ShowComputerMove(g, m)) PlayUnderRuleSet(g, DefenderCode, m);
+        return;
+    }
     RecordMove(g);
     if (!ShowComputerMove(g, m)) return;
     MoveAndMark(g, m);
@@ -79,7 +100,7 @@ void MakeDefenderMove(Game& g, const Move& m) {
         (rowValue == g.BoardHeight && (g.KingCol == 2 || g.KingCol == g.BoardWidth - 1));
     if (besideHome) {
         HideDragLine(g);
-        EndGame(g, "King Home !", "vbcritical+vbok");
+        EndGame(g, GameEnding::KingHome, "King Home !", "vbcritical+vbok");
         return;
     }
     CaptureAround(g, m.To.Col, m.To.Row);
@@ -93,15 +114,19 @@ void DropPiece(Game& g, int col, int row) {
     const Square source = g.DragSource;
     if (col == source.Col && row == source.Row) return;
     if (source.Col < 1 || source.Col > g.BoardWidth || source.Row < 1 || source.Row > g.BoardHeight) return;
-    const int mover = g.Board(source.Col, source.Row);
+    const int mover = g.Board(source.Col, source.Row) == AttackerCode ? AttackerCode : DefenderCode;
     const Move move{source, {col, row}};
 
-    RuleBoard board(g, mover == AttackerCode ? AttackerCode : DefenderCode);
+    RuleBoard board(g, mover);
     const Refusal refusal = board.Check(move).Why;
     // A drop on the centre is cancelled; any other refused drop leaves the
     // drag line where it is.
     if (refusal == Refusal::CentreForKing) HideDragLine(g);
     if (refusal != Refusal::None) return;
+    if (!PlaysClassicRules(g)) {
+        if (PlayUnderRuleSet(g, mover, move)) AnswerDrop(g, mover);
+        return;
+    }
     MoveUndo undo;
     board.Make(RuleBoard::ToBoardMove(move), undo);
     if (board.State() == GameState::KingHome) {
@@ -109,7 +134,7 @@ void DropPiece(Game& g, int col, int row) {
         HideDragLine(g);
         board.WriteTo(g);
         g.View->DrawBoard();
-        EndGame(g, "King at Home !", "vbhappy+vbok");
+        EndGame(g, GameEnding::KingHome, "King at Home !", "vbhappy+vbok");
         return;
     }
 
@@ -118,7 +143,7 @@ void DropPiece(Game& g, int col, int row) {
     if (board.State() == GameState::KingTaken) {
         // As for the computer's attackers: the King's capture is the whole move.
         HideDragLine(g);
-        EndGame(g, "King Captured !", "vbcritical+vbok");
+        EndGame(g, GameEnding::KingTaken, "King Captured !", "vbcritical+vbok");
         return;
     }
     const int gameNumber = g.GameNumber;
@@ -126,10 +151,7 @@ void DropPiece(Game& g, int col, int row) {
     // A game begun during the capture's pause has no move to answer.
     if (!GameGoesOn(g, gameNumber)) return;
     AnalysePosition(g);
-    HideDragLine(g);
-    if (!g.Check1) return;
-    if (mover == AttackerCode) MakeGreenAutoMove(g);
-    else MakeRedAutoMove(g);
+    AnswerDrop(g, mover);
 }
 
 }  // namespace jv

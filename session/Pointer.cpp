@@ -35,7 +35,19 @@ void CancelDrag(Game& g) {
 
 std::string PieceTargets(const Game& g, int col, int row) {
     std::string targets;
-    for (char d : {'U', 'D', 'L', 'R'}) AppendReach(g, col, row, d, targets);
+    if (PlaysClassicRules(g)) {
+        for (char d : {'U', 'D', 'L', 'R'}) AppendReach(g, col, row, d, targets);
+        return targets;
+    }
+    if (!InPlay(g, col, row)) return targets;
+    const RuleBoard board(g, g.Board(col, row) == AttackerCode ? AttackerCode : DefenderCode);
+    BoardMove moves[MaxMoves];
+    const int n = board.Generate(moves);
+    for (int i = 0; i < n; ++i)
+        if (moves[i].From == CellOf(col, row)) {
+            AppendSquareText(targets, ColOf(moves[i].To), RowOf(moves[i].To));
+            targets += ',';
+        }
     return targets;
 }
 
@@ -82,6 +94,7 @@ std::string PointerHint(const Game& g, int col, int row) {
     else if (code == DefenderCode) what = "defender";
     else if (code == AttackerCode) what = "attacker";
     else if (code == HomeCode) what = "Home";
+    else if (HasThrone(g) && col == g.CentreCol && row == g.CentreRow) what = "throne";
     return SquareName(g, col, row) + ": " + what;
 }
 

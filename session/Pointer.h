@@ -13,9 +13,11 @@ namespace jv {
 
 bool CanStartDrag(const Game& g, int col, int row);
 // The squares the piece on (col, row) can move to in the position as it
-// stands, as square items in MoveTargets order. The tables of the last
-// analysis may be those of a computer player's trial move, so the pointer
-// walks the board itself.
+// stands, as square items: under the classic rules its reach in MoveTargets
+// order (the centre listed like any empty square), under any other rule set
+// its moves as the rule board lists them. The tables of the last analysis
+// may be those of a computer player's trial move, so the pointer walks the
+// board itself.
 std::string PieceTargets(const Game& g, int col, int row);
 // Starts a drag: sets DragSource and shows the drag line. False when refused.
 bool BeginDrag(Game& g, int col, int row);

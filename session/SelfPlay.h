@@ -11,6 +11,9 @@ enum class GameEnd {
     DefendersWithoutMove,
     AttackersWithoutMove,
     MoveLimit,
+    KingInFort,           // under a rule set with exit forts
+    DefendersEncircled,   // under a rule set with encirclement
+    Repetition,           // a position come round a third time, where that loses for the defenders
 };
 
 struct AutoGameResult {
@@ -21,6 +24,8 @@ struct AutoGameResult {
 // AutoGame's alternation on the position as it stands (the defenders first:
 // MakeGreenAutoMove, then MakeRedAutoMove), without pauses or questions
 // beyond the view's own, until the game ends or maxMoves moves are made.
+// Under a rule set other than the classic one the side to move begins, and
+// the game ends where the rule board ends it.
 AutoGameResult PlayAutoGame(Game& g, int maxMoves);
 
 // True when the King could move onto a Home corner along a free line now.

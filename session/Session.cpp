@@ -9,8 +9,10 @@
 #include "records/ProgramFolder.h"
 #include "records/TextFile.h"
 #include "session/ComputerMoves.h"
-#include "session/StrongTurn.h"
+#include "session/GameEnding.h"
 #include "session/LayoutCommands.h"
+#include "session/NewGame.h"
+#include "session/StrongTurn.h"
 
 namespace jv {
 
@@ -41,12 +43,12 @@ bool StartUp(Game& g, const std::function<void()>& applySettings) {
     g.SchemeFile = "xp.col";
     ReadConfiguration(g, ConfigurationFile);
     ReadPlayers(g);
+    ReadRules(g);
     LoadColourScheme(g, g.SchemeFile);
     if (applySettings) applySettings();
 
     LoadLayout(g, g.LayoutFile);
-    // The defenders, the user's side, move first.
-    PrintLog(g, "  Player1 to move ...", 1, 0);
+    LogFirstMover(g);
     return true;
 }
 
@@ -59,17 +61,21 @@ void AutoGame(Game& g) {
         g.StopThinking = true;
         return;
     }
-    // Runs on after a game has ended: only the user's stop or the program's
-    // end stops it, at once, even between the two moves of a round.
+    // The user's stop or the program's end stops it at once, even between
+    // the two moves of a round. Under the classic rules it runs on after a
+    // game has ended, the defenders moving first in every round; under any
+    // other rule set the sides move in turn from the side to move, and the
+    // end of the game stops it too.
     g.AutoGameRunning = true;
-    const auto goesOn = [&g] { return g.AutoGameRunning && !g.Ending; };
+    const auto goesOn = [&g] { return g.AutoGameRunning && !g.Ending && (PlaysClassicRules(g) || !g.GameOver); };
     while (goesOn()) {
         const std::string before = EncodePosition(g);
         g.View->DoEvents();
         if (!goesOn()) break;
-        MakeGreenAutoMove(g);
+        const int first = PlaysClassicRules(g) ? DefenderCode : SideToMove(g);
+        MakeAutoMove(g, first);
         if (!goesOn()) break;
-        MakeRedAutoMove(g);
+        MakeAutoMove(g, OtherSide(first));
         // Neither side could move: without a pause the two messages would
         // follow each other with no moment for Stop or Exit.
         if (goesOn() && EncodePosition(g) == before) g.View->Pause(1000);
@@ -82,6 +88,7 @@ bool ExitCommand(Game& g) {
     // A configuration that cannot be written is reported and the program
     // still ends.
     WriteConfiguration(g, ConfigurationFile);
+    WriteRules(g);
     EndProgram(g);
     return true;
 }

@@ -8,7 +8,8 @@ namespace jv {
 // The configuration file read at start-up and written by the exit command.
 inline constexpr const char* ConfigurationFile = "jarlsvakt.cfg";
 
-// Brings the game up in the start-up order. False when "all.col" is missing:
+// Brings the game up in the start-up order, under the rule set and on the
+// opening that rules.cfg keeps. False when "all.col" is missing:
 // the message has been shown and the program ends.
 bool StartUp(Game& g);
 // The same, with the window's own set-up (applying the colours, building the
@@ -20,12 +21,14 @@ bool StartUp(Game& g, const std::function<void()>& applySettings);
 // longer takes pointer input until the next layout is loaded.
 bool GameFinished(const Game& g);
 
-// Plays both sides, defenders first, until the user stops it or the program
-// ends; pressed while it plays, it stops.
+// Plays both sides until the user stops it or the program ends; pressed
+// while it plays, it stops. Under the classic rules each round begins with
+// the defenders and it plays on after a game has ended; under any other rule
+// set the side to move begins and the end of the game stops it.
 void AutoGame(Game& g);
 
 // The exit command (cmdexit): asks "Exit?"; on Yes writes the configuration
-// and ends the program. True when the program ends.
+// and the rules file and ends the program. True when the program ends.
 bool ExitCommand(Game& g);
 
 }  // namespace jv

@@ -50,6 +50,7 @@ std::vector<std::uint64_t> PlayedKeys(const Game& g, int side) {
     SilentView silent;
     Game earlier;
     earlier.View = &silent;
+    earlier.GameRules = g.GameRules;   // the Home corners and the keys of the game's rule set
     int mover = side;
     for (const std::string& record : g.Undo) {
         mover ^= 1;

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/Board.h"
 #include "core/VbText.h"
 #include "ui/ColourValue.h"
 #include "ui/Surface.h"
@@ -21,6 +22,18 @@ QColor VictimMarkColour(const Game& g) { return ToQColor(g.ColourTable[9]); }
 namespace {
 
 int Whole(double x) { return static_cast<int>(RoundHalfEven(x)); }
+
+bool IsThrone(const Game& g, int a, int b) { return HasThrone(g) && a == g.CentreCol && b == g.CentreRow; }
+
+// What a square shows where no piece stands: the board's background, and on
+// a throne the background taken two fifths of the way towards the grid colour.
+QColor EmptyFill(const Game& g, int a, int b) {
+    const QColor back = BoardBackColour(g);
+    if (!IsThrone(g, a, b)) return back;
+    const QColor grid = GridColour(g);
+    const auto mix = [](int from, int to) { return from + (to - from) * 2 / 5; };
+    return QColor(mix(back.red(), grid.red()), mix(back.green(), grid.green()), mix(back.blue(), grid.blue()));
+}
 
 // The box of one square in the board style; nothing for an unknown style.
 void PaintSquareBox(Surface& s, const BoardCanvas& c, int a, int b, const QColor& fill) {
@@ -72,6 +85,19 @@ void PaintPiece(Surface& s, const BoardCanvas& c, int a, int b, int code) {
     }
 }
 
+// Where the King escapes on the edge, the edge is drawn as a thick frame a
+// little outside the squares, where no square's repaint reaches it.
+void FrameTheEdge(Surface& s, const BoardCanvas& c) {
+    const BoardGeometry& geo = c.geometry;
+    const int gap = 2 * TwipsPerPixel;
+    const int left = geo.Left(1, 1) - gap, top = geo.Top(1, 1) - gap;
+    const int right = geo.Left(1, c.g.BoardHeight) + geo.SquareSize + gap;
+    const int bottom = geo.Top(c.g.BoardWidth, 1) + geo.SquareSize + gap;
+    s.SetLineWidth(2);
+    s.Box(left, top, right, bottom, GridColour(c.g));
+    s.SetLineWidth(c.geometry.GridLineWidth);
+}
+
 void PrintLabels(Surface& s, const BoardCanvas& c) {
     const Game& g = c.g;
     const BoardGeometry& geo = c.geometry;
@@ -103,11 +129,12 @@ void DrawBoard(const BoardCanvas& c) {
     for (int a = 1; a <= g.BoardWidth; ++a)
         for (int b = 1; b <= g.BoardHeight; ++b) {
             const int code = DrawCode(g, a, b);
-            QColor fill = BoardBackColour(g);
+            QColor fill = EmptyFill(g, a, b);
             if (g.ColourMode == 1 && code != -1) fill = SquareColours(g, code);
             PaintSquareBox(s, c, a, b, fill);
             if (g.ColourMode == 0 && code != -1) PaintPiece(s, c, a, b, code);
         }
+    if (!HasHomeCorners(g) && g.BoardWidth > 0 && g.BoardHeight > 0) FrameTheEdge(s, c);
     if (g.ShowLabels != 0) PrintLabels(s, c);
 }
 
@@ -119,7 +146,7 @@ void DrawPiece(const BoardCanvas& c, int a, int b, int drawCode) {
 void DrawSquare(const BoardCanvas& c, int a, int b, const QColor& colour) {
     Surface s(c.pixmap);
     s.SetLineWidth(c.geometry.GridLineWidth);
-    PaintSquareBox(s, c, a, b, colour);
+    PaintSquareBox(s, c, a, b, colour == BoardBackColour(c.g) ? EmptyFill(c.g, a, b) : colour);
 }
 
 void DrawMoveMark(const BoardCanvas& c, int fromA, int fromB, int toA, int toB) {

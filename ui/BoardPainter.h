@@ -25,12 +25,15 @@ struct BoardCanvas {
     QPixmap& pixmap;
 };
 
-// Repaints the whole board: squares in the board style, pieces, labels.
+// Repaints the whole board: squares in the board style (a throne darker),
+// pieces, labels.
 void DrawBoard(const BoardCanvas& c);
 // Paints one piece into one square: its picture, or a colour block in
 // colour mode.
 void DrawPiece(const BoardCanvas& c, int a, int b, int drawCode);
-// Repaints one square's box in the board style with the given fill colour.
+// Repaints one square's box in the board style with the given fill colour;
+// the board's background stands for the square's own empty fill, which a
+// throne shows darker.
 void DrawSquare(const BoardCanvas& c, int a, int b, const QColor& colour);
 // The mark of the last move: a thick line from the centre of the source to a
 // bar a quarter of a square inside the target.

@@ -33,7 +33,7 @@ constexpr KindText Texts[4] = {
 EditorPalette::EditorPalette(const Game& game, QWidget* parent) : QWidget(parent), g_(game) {
     setObjectName("Picture2");
     setFixedWidth(96);
-    setToolTip("Choose what to place, then click squares on the board.\nThe corners stay Home; "
+    setToolTip("Choose what to place, then click squares on the board.\nHome corners stay Home; "
                "press the editor button again to play the layout.");
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(4, 0, 4, 0);

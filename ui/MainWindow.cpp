@@ -6,6 +6,7 @@
 #include <QCloseEvent>
 #include <QTimer>
 
+#include "session/NewGame.h"
 #include "session/Session.h"
 #include "ui/BoardPicture.h"
 #include "ui/ColourValue.h"
@@ -38,8 +39,9 @@ bool MainWindow::Start() {
     const bool ok = StartUp(game_, [this] { ApplyWindowColours(); });
     if (!ok) return false;
     SyncChecks();
-    ShowPlayers();
     DrawBoard();
+    // Once the window is up, the computer makes the first move when it is its own.
+    QTimer::singleShot(0, this, [this] { ComputerOpens(game_); });
     return true;
 }
 

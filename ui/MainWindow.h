@@ -100,7 +100,11 @@ private:
     // The computer player of each side, the strong player's thinking time and
     // the hint.
     QWidget* BuildPlayerChoice();
+    // The players, the rules in the status line, and the classic players'
+    // controls, offered under the classic rules only.
     void ShowPlayers();
+    // Game > New Game: the dialog, then the new game it chooses.
+    void ChooseNewGame();
     // Shares the width beside the commands: the board first, the lists the rest.
     void GiveBoardTheRoom();
     QPushButton* AddButton(const char* name, const QString& caption, const QString& toolTip);
@@ -133,6 +137,7 @@ private:
     LineList* eventLog_ = nullptr;
     std::map<ListId, QListWidget*> lists_;
     QLabel* layoutName_ = nullptr;
+    QLabel* rulesName_ = nullptr;
     std::array<QLabel*, 2> ptot_{};
     QCheckBox* check1_ = nullptr;
     QCheckBox* check2_ = nullptr;

@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QEvent>
+#include <QLabel>
 #include <QListWidget>
 #include <QMouseEvent>
 #include <QPointer>
@@ -21,6 +22,7 @@
 #include "session/GameRecordExport.h"
 #include "session/LayoutCommands.h"
 #include "session/LayoutEditor.h"
+#include "session/NewGame.h"
 #include "session/Recording.h"
 #include "session/Session.h"
 #include "session/StrongTurn.h"
@@ -28,6 +30,7 @@
 #include "ui/BoardPicture.h"
 #include "ui/EditorPalette.h"
 #include "ui/MainWindow.h"
+#include "ui/NewGameDialog.h"
 #include "ui/widgets/HelpViewer.h"
 
 namespace jv::ui {
@@ -41,16 +44,17 @@ void MainWindow::ConnectCommands() {
     };
     onClick("cmdload", [this] { LoadCommand(game_); });
     onClick("cmdsave", [this] { SaveCommand(game_); });
-    onClick("cmdreset", [this] { ResetCommand(game_); });
+    onClick("cmdreset", [this] { ResetGameCommand(game_); });
     onClick("cmdundo", [this] { UndoCommand(game_); });
     onClick("cmdloadlog", [this] { ReplayCommand(game_); });
     onClick("cmdedit", [this] { EditorCommand(game_); });
     onClick("cmdexit", [this] { ExitCommand(game_); });
     onClick("Command12", [this] { ToggleAutoGame(); });
+    onMenu("mnunewgame", [this] { ChooseNewGame(); });
     onMenu("mnuloadgame", [this] { LoadCommand(game_); });
     onMenu("mnusavegame", [this] { SaveCommand(game_); });
     onMenu("mnuexportrecord", [this] { ExportGameRecordCommand(game_); });
-    onMenu("mnuresetgame", [this] { ResetCommand(game_); });
+    onMenu("mnuresetgame", [this] { ResetGameCommand(game_); });
     onMenu("mnuexit", [this] { ExitCommand(game_); });
     onMenu("mnuoptions", [this] { ShowOptions(); });
     onMenu("mnuhelp", [this] { ShowHelp(); });
@@ -70,10 +74,13 @@ void MainWindow::ConnectCommands() {
         connect(lists_.at(id), &QListWidget::pressed, this, [this, id] { PreviewListMove(id); });
     onClick("cmdhint", [this] { HintCommand(game_); });
     const auto choosePlayers = [this] {
-        game_.Players.Attackers = findChild<QComboBox*>("AttackerPlayer")->currentIndex() == 1 ? PlayerKind::Strong
-                                                                                               : PlayerKind::Classic;
-        game_.Players.Defenders = findChild<QComboBox*>("DefenderPlayer")->currentIndex() == 1 ? PlayerKind::Strong
-                                                                                               : PlayerKind::Classic;
+        // Under another rule set the boxes show the strong player, whatever the classic choice.
+        if (PlaysClassicRules(game_)) {
+            game_.Players.Attackers = findChild<QComboBox*>("AttackerPlayer")->currentIndex() == 1 ? PlayerKind::Strong
+                                                                                                   : PlayerKind::Classic;
+            game_.Players.Defenders = findChild<QComboBox*>("DefenderPlayer")->currentIndex() == 1 ? PlayerKind::Strong
+                                                                                                   : PlayerKind::Classic;
+        }
         game_.Players.ThinkMillis = findChild<QComboBox*>("ThinkingTime")->currentData().toInt();
         game_.Players.UserSide = findChild<QComboBox*>("UserSide")->currentIndex() == 1 ? AttackerCode : DefenderCode;
         WritePlayers(game_);
@@ -124,11 +131,35 @@ void MainWindow::PreviewListMove(ListId id) {
 }
 
 void MainWindow::ShowPlayers() {
-    findChild<QComboBox*>("AttackerPlayer")->setCurrentIndex(game_.Players.Attackers == PlayerKind::Strong);
-    findChild<QComboBox*>("DefenderPlayer")->setCurrentIndex(game_.Players.Defenders == PlayerKind::Strong);
+    const bool classic = PlaysClassicRules(game_);
+    const QString rules = QString::fromUtf8(game_.GameRules.Name.data(), game_.GameRules.Name.size());
+    const QString onlyClassic = "Under the " + rules +
+                                " rules the strong player plays both sides: the classic players know the Classic "
+                                "rules only";
+    for (const auto& [name, side] : {std::pair{"AttackerPlayer", AttackerCode}, {"DefenderPlayer", DefenderCode}}) {
+        auto* box = findChild<QComboBox*>(name);
+        box->setCurrentIndex(PlayerOf(game_, side) == PlayerKind::Strong);
+        box->setEnabled(classic);
+        box->setToolTip(classic ? "Classic: the ranked lists. Strong: a search of the moves ahead" : onlyClassic);
+    }
     auto* time = findChild<QComboBox*>("ThinkingTime");
     time->setCurrentIndex(std::max(0, time->findData(game_.Players.ThinkMillis)));
     findChild<QComboBox*>("UserSide")->setCurrentIndex(game_.Players.UserSide == AttackerCode);
+    // The classic players' one-step tools read the board by the classic rules.
+    for (const char* name : {"cmdGetAttackerRank", "cmdGetDefenderRank", "cmdGreenRandom", "cmdRedRandom",
+                             "cmdRedGreenRandom", "cmdPathAroundKing", "cmdRouteFromKing", "cmdCheckKingCapture"}) {
+        auto* button = findChild<QPushButton*>(name);
+        button->setEnabled(classic);
+        button->setToolTip(classic ? QString() : "A step of the classic players: for the Classic rules only");
+    }
+    rulesName_->setText("Rules: " + rules);
+    rulesName_->setToolTip(QString::fromStdString(RulesSummary(game_.GameRules)));
+}
+
+void MainWindow::ChooseNewGame() {
+    NewGameDialog dialog(game_, this);
+    if (dialog.exec() != QDialog::Accepted) return;
+    NewGameCommand(game_, dialog.Choice());
 }
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {

@@ -96,6 +96,9 @@ void MainWindow::BuildWindow() {
     setCentralWidget(centre);
     BuildMenus();
     statusBar()->setObjectName("StatusLine");
+    rulesName_ = new QLabel;
+    rulesName_->setObjectName("RulesName");
+    statusBar()->addPermanentWidget(rulesName_);
     connect(picture_, &BoardPicture::HintChanged, this, [this](const QString& hint) {
         if (hint.isEmpty()) statusBar()->clearMessage();
         else statusBar()->showMessage(hint);
@@ -150,7 +153,7 @@ QWidget* MainWindow::BuildCommandColumn() {
     check2_->setToolTip("Append every position to a new moves log file");
     playLayout->addWidget(check1_);
     playLayout->addWidget(check2_);
-    playLayout->addWidget(AddButton("Command12", "AutoGame", "The computer plays both sides, defenders first"));
+    playLayout->addWidget(AddButton("Command12", "AutoGame", "The computer plays both sides in turn"));
     playLayout->addWidget(BuildPlayerChoice());
     layout->addWidget(play);
 
@@ -198,7 +201,6 @@ QWidget* MainWindow::BuildPlayerChoice() {
         auto* box = new QComboBox;
         box->setObjectName(sides[i].first);
         box->addItems({"Classic", "Strong"});
-        box->setToolTip("Classic: the ranked lists. Strong: a search of the moves ahead");
         grid->addWidget(new QLabel(sides[i].second), i, 0);
         grid->addWidget(box, i, 1);
     }
@@ -318,6 +320,7 @@ void MainWindow::BuildMenus() {
         if (!keys.isEmpty()) action->setShortcut(keys);
         return action;
     };
+    add(file, "mnunewgame", "&New Game...", QKeySequence::New);
     add(file, "mnuloadgame", "&Load Game...", QKeySequence::Open);
     add(file, "mnusavegame", "&Save Game...", QKeySequence::Save);
     add(file, "mnuexportrecord", "&Export game record...");

@@ -114,6 +114,8 @@ void MainWindow::UpdateCounters(int defenders, int attackers) {
 void MainWindow::ShowLayoutName(const std::string& caption, const std::string& toolTip) {
     layoutName_->setText(QString::fromStdString(caption));
     layoutName_->setToolTip(QString::fromStdString(toolTip));
+    // Every game begins here, under the rule set it is played by.
+    ShowPlayers();
 }
 
 void MainWindow::RefreshList(ListId id) {

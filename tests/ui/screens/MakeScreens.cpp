@@ -1,11 +1,13 @@
 // Draws the pictures of the README: the window in play after a few moves with a capture in the log, the
-// message box, the layout editor, the options dialog and the board in every shipped colour scheme. Usage:
+// message box, the layout editor, the options dialog, the board in every shipped colour scheme, games under
+// the Copenhagen and the Tablut rules, and the opening of each rule set. Usage:
 //   ui_screens <output folder>
 // Runs on any Qt platform (offscreen or under xvfb-run).
 #include <iostream>
 
 #include "../WindowFixture.h"
 #include "records/ColourScheme.h"
+#include "session/NewGame.h"
 #include "ui/Form2.h"
 #include "ui/MsgForm.h"
 #include "ui/Surface.h"
@@ -29,6 +31,14 @@ struct Screen : StartedWindow {
     Screen(int width, int height) {
         window.resize(width, height);
         QApplication::processEvents();
+    }
+    // The squares with their labels and a small margin, in the window's pixels.
+    QRect BoardArea() {
+        const int half = ui::ToPixels(Board()->Geometry().SquareSize) / 2;
+        const QPoint labels(ui::LabelMarginLeft, ui::LabelMarginTop);
+        const QPoint first = Board()->SquareCentre(1, 1) - QPoint(half, half) - labels;
+        const QPoint last = Board()->SquareCentre(g().BoardWidth, g().BoardHeight) + QPoint(half + 8, half + 8);
+        return {Board()->mapTo(&window, first), Board()->mapTo(&window, last)};
     }
     // Opens the options dialog from the menu and runs steps while it is open.
     void WithOptions(const std::function<void(ui::Form2*)>& steps) {
@@ -88,14 +98,42 @@ bool SaveOptions(const QString& out) {
             form->findChild<QComboBox*>("Combo1")->setCurrentText(QString::fromStdString(name));
             QTest::mouseClick(form->findChild<QWidget*>("Command1"), Qt::LeftButton);
         });
-        const int half = ui::ToPixels(s.Board()->Geometry().SquareSize) / 2;
-        const QPoint labels(ui::LabelMarginLeft, ui::LabelMarginTop);
-        const QPoint first = s.Board()->SquareCentre(1, 1) - QPoint(half, half) - labels;
-        const QPoint last = s.Board()->SquareCentre(s.g().BoardWidth, s.g().BoardHeight) + QPoint(half + 8, half + 8);
-        const QRect area(s.Board()->mapTo(&s.window, first), s.Board()->mapTo(&s.window, last));
-        ok = Save(s.window, out + "/scheme-" + QString::fromStdString(name) + ".png", area) && ok;
+        ok = Save(s.window, out + "/scheme-" + QString::fromStdString(name) + ".png", s.BoardArea()) && ok;
     }
     return ok;
+}
+
+// A new game under a rule set and the computer's opening move where it has one; then the user's moves, each
+// answered by the computer, or without answers, to show the King off his throne.
+bool SaveRuleSet(const QString& path, const GameChoice& choice, bool answered,
+                 std::initializer_list<std::pair<Square, Square>> moves) {
+    Screen s(1200, 760);
+    s.g().Players.ThinkMillis = 200;
+    NewGameCommand(s.g(), choice);
+    s.Find("Check1")->setChecked(answered);
+    for (auto [from, to] : moves) s.Drag(from, to);
+    SendMouse(s.Board(), QEvent::MouseMove, s.Board()->SquareCentre(s.g().CentreCol, s.g().CentreRow), Qt::NoButton);
+    return Save(s.window, path);
+}
+
+// The opening of each rule set on its board (Fetlar's is Copenhagen's), for the README.
+bool SaveOpenings(const QString& out) {
+    bool ok = true;
+    for (const char* name : {"Copenhagen", "Brandubh", "Tablut", "Tawlbwrdd"}) {
+        Screen s(900, 520);
+        s.Find("Check1")->setChecked(false);
+        NewGameCommand(s.g(), {name, std::string(FindRules(name)->Layout), DefenderCode});
+        ok = Save(s.window, out + "/opening-" + QString(name).toLower() + ".png", s.BoardArea()) && ok;
+    }
+    return ok;
+}
+
+bool SaveRuleSets(const QString& out) {
+    const bool copenhagen = SaveRuleSet(out + "/rules-copenhagen.png", {"Copenhagen", "copenhagen.txt", DefenderCode},
+                                        true, {{{4, 6}, {4, 3}}, {{6, 4}, {3, 4}}});
+    const bool tablut = SaveRuleSet(out + "/rules-tablut.png", {"Tablut", "tablut.txt", DefenderCode}, false,
+                                    {{{5, 4}, {2, 4}}, {{5, 5}, {5, 4}}});
+    return copenhagen && tablut && SaveOpenings(out);
 }
 
 }  // namespace
@@ -106,5 +144,5 @@ int main(int argc, char** argv) {
     const QString out = argc > 1 ? argv[1] : "docs/screens";
     QDir().mkpath(out);
     const bool window = SaveWindow(out), editor = SaveEditor(out), options = SaveOptions(out);
-    return window && editor && options ? 0 : 1;
+    return window && editor && options && SaveRuleSets(out) ? 0 : 1;
 }
