@@ -131,7 +131,7 @@ TEST(Cli, RulesAreListedAndEachCommandPlaysUnderTheRuleSetItIsGiven) {
          "Tawlbwrdd\nusage: jarlsvakt-cli perft FILE|- DEPTH [--side attackers|defenders] [--rules NAME]\n"},
         {"play edge.txt user:Kc3-c1--", 2, {"REFUSED user:Kc3-c1--: Kc3-c1 does not bring the King home"}, ""},
         {"play edge.txt --rules tablut user:Kc3-c1--", 0,
-         {"MESSAGE [vbhappy+vbok]: King at Home ! / Click Reset to start a new game"}, ""},
+         {"MESSAGE [vbhappy+vbok]: The King has reached the edge: the defenders win / Click Reset to start a new game"}, ""},
         {"record game.txt --rules fetlar", 0,
          {"[rules:dim:5 " + fetlar + " start:/5/5/2K2/1t3/5/]", "", "1. b4-d4 Kc3-c2"}, ""},
         {"otn brandubh.txt --rules brandubh", 0, {"dim:7 " + brandubh + " start:/3t3/3t3/3T3/ttTKTtt/3T3/3t3/3t3/"}, ""},
