@@ -311,7 +311,7 @@ void RuleBoard::Make(BoardMove m, MoveUndo& undo) {
         king_ = m.To;
         if (Escaped(m.To)) {
             state_ = GameState::KingHome;
-            return;
+            if (rules_.KingHomeIsWholeMove) return;
         }
     } else {
         Place(m.To, piece);
