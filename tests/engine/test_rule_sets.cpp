@@ -156,8 +156,7 @@ const struct RuleSetGames {
     {"Tawlbwrdd", "tawlbwrdd.tsv", {{"game-76-149-22959", "move 13 b8-e8xe9xc7xe9: takes e9, marked c7 e9"}}},
 };
 
-// Small positions under the Copenhagen rules (and others where a row says so), each one move from an ending.
-// Ranks run from the top, files from the left.
+// Small positions, each one move from an ending: the ranks from the top, each from file a.
 const auto ShieldwallAgainstACorner =
     jv::test::LayoutText({"H.....H", ".......", "...K...", ".......", "...a...", ".aa....", "Hdd...H"});
 const auto KingInAShieldwall =
