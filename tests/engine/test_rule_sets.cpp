@@ -213,6 +213,7 @@ TEST(RuleSets, MoveCountsArePinned) {
         // Three moves close the ring; in Fetlar the game goes on, and the defenders have one move after each.
         {"Copenhagen", RingClosedOnF5, AttackerCode, {37, 135, 5222}},
         {"Fetlar", RingClosedOnF5, AttackerCode, {37, 138, 5328}},
+        {"Fetlar", KingHomeBesideAnAttacker, DefenderCode, {21, 359, 7202}},
     };
     for (const auto& r : rows) {
         const Rules& rules = *FindRules(r.rules);
