@@ -163,6 +163,8 @@ void Searcher::Prefer(BoardMove m, int depth, int ply) {
 int Searcher::Quiesce(int alpha, int beta, int ply, int qply) {
     pvLength_[ply] = ply;
     if (board_.SideToMove() == DefenderCode && board_.KingRoutes() > 0) return KingHome(ply);
+    // Where a side that cannot move loses, the quiet look past the depth sees it too.
+    if (board_.RuleSet().NoMoveLoses && !board_.HasMove()) return -(SearchWin - ply);
     if (ply >= SearchMaxPly - 1 || Stopped()) return Evaluate();
 
     const bool threatened = board_.SideToMove() == AttackerCode && board_.KingRoutes() > 0;

@@ -311,7 +311,7 @@ void RuleBoard::Make(BoardMove m, MoveUndo& undo) {
         king_ = m.To;
         if (Escaped(m.To)) {
             state_ = GameState::KingHome;
-            return;
+            if (rules_.KingHomeIsWholeMove) return;
         }
     } else {
         Place(m.To, piece);
@@ -325,7 +325,9 @@ void RuleBoard::Make(BoardMove m, MoveUndo& undo) {
     }
     Capture(m.To, undo);
     if (state_ != GameState::GoesOn) return;
-    if (piece == CellAttacker ? rules_.Encirclement && DefendersEncircled() : rules_.ExitFort && KingInFort())
+    // A move that takes nothing and cuts no way through leaves a way to the edge open.
+    if (piece == CellAttacker ? rules_.Encirclement && (undo.Count > 0 || MayCloseRing(m.To)) && DefendersEncircled()
+                              : rules_.ExitFort && KingInFort())
         state_ = piece == CellAttacker ? GameState::DefendersEncircled : GameState::KingInFort;
 }
 
@@ -472,24 +474,47 @@ bool RuleBoard::KingInFort() const {
     return true;
 }
 
+// Whether an attacker arriving on the cell, taking nothing, may close a ring:
+// on the edge, or where the squares free of attackers beside him are no
+// longer joined around him. Elsewhere every way that ran over the cell runs
+// round it, and the defenders reach the edge as before.
+bool RuleBoard::MayCloseRing(int cell) const {
+    if (OnEdge(cell)) return true;
+    constexpr int Ring[8] = {-CellStride, -CellStride + 1, 1, CellStride + 1, CellStride, CellStride - 1, -1, -CellStride - 1};
+    const auto open = [&](int offset) { return cells_[cell + offset] != CellAttacker && cells_[cell + offset] != CellWall; };
+    int sides = 0, joins = 0;
+    for (int k = 0; k < 8; k += 2) {
+        const bool side = open(Ring[k]);
+        sides += side;
+        joins += side && open(Ring[k + 1]) && open(Ring[(k + 2) % 8]);
+    }
+    // The open sides form a ring of groups; four joins close it into one.
+    return sides - (joins == 4 ? 3 : joins) > 1;
+}
+
 // No defender, the King among them, can reach the edge over squares that
-// hold no attacker.
+// hold no attacker. The squares reached grow a row at a time, each row a
+// mask of its columns, until they touch the edge or stop growing.
 bool RuleBoard::DefendersEncircled() const {
-    std::bitset<CellCount> reached;
-    std::uint8_t todo[CellCount];
-    int count = 0;
-    const auto reach = [&](int cell) {
-        if (reached[cell]) return;
-        reached[cell] = true;
-        todo[count++] = static_cast<std::uint8_t>(cell);
-    };
-    if (king_ >= 0) reach(king_);
-    for (int i = 0; i < pieceCount_[0]; ++i) reach(pieces_[0][i]);
-    while (count > 0) {
-        const int cell = todo[--count];
-        if (OnEdge(cell)) return false;
-        for (int step : CellSteps)
-            if (cells_[cell + step] != CellAttacker && cells_[cell + step] != CellWall) reach(cell + step);
+    std::array<std::uint32_t, CellStride> open{}, reached{};
+    const std::uint32_t edgeCols = (1u << 1) | (1u << width_);
+    for (int row = 1; row <= height_; ++row) open[row] = ((1u << width_) - 1) << 1;
+    for (int i = 0; i < pieceCount_[1]; ++i) open[RowOf(pieces_[1][i])] &= ~(1u << ColOf(pieces_[1][i]));
+    if (king_ >= 0) reached[RowOf(king_)] |= 1u << ColOf(king_);
+    for (int i = 0; i < pieceCount_[0]; ++i) reached[RowOf(pieces_[0][i])] |= 1u << ColOf(pieces_[0][i]);
+    for (bool grew = true; grew;) {
+        grew = false;
+        for (int row = 1; row <= height_; ++row) {
+            std::uint32_t now = reached[row] | ((reached[row - 1] | reached[row + 1]) & open[row]);
+            for (std::uint32_t before = 0; now != before;) {
+                before = now;
+                now |= ((now << 1) | (now >> 1)) & open[row];
+            }
+            if (now == 0) continue;
+            if ((now & edgeCols) != 0 || row == 1 || row == height_) return false;
+            grew = grew || now != reached[row];
+            reached[row] = now;
+        }
     }
     return true;
 }

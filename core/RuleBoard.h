@@ -169,6 +169,7 @@ private:
     template <typename Take>
     void ForEachWallTaken(int at, Take take) const;
     bool KingInFort() const;
+    bool MayCloseRing(int cell) const;
     bool DefendersEncircled() const;
     bool Sandwiched(int victim, int far, int mover, int enemy) const;
     template <typename Take>

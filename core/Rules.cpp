@@ -9,8 +9,9 @@ namespace {
 
 // The rules of the public tafl archive's games: the attackers move first,
 // only the King stops on the throne (every piece may pass it empty) and the
-// throne is hostile; the King fights, and taking him ends the move only as
-// a game ends.
+// throne is hostile; the King fights, a move that takes him or brings him
+// home takes what it sandwiches as any move does, attackers who close every
+// defender in win, and a side that cannot move loses.
 Rules ArchiveRules(std::string_view name, std::string_view layout, std::string_view openTafl) {
     Rules rules;
     rules.Name = name;
@@ -19,7 +20,9 @@ Rules ArchiveRules(std::string_view name, std::string_view layout, std::string_v
     rules.AttackersFirst = true;
     rules.ThroneHostile = true;
     rules.KingCaptureIsWholeMove = false;
+    rules.KingHomeIsWholeMove = false;
     rules.SandwichedKingEndsCaptures = false;
+    rules.Encirclement = true;
     rules.NoMoveLoses = true;
     return rules;
 }
@@ -31,25 +34,26 @@ std::vector<Rules> MakeRuleSets() {
     copenhagen.KingTaken = KingCapture::Four;
     copenhagen.Shieldwall = true;
     copenhagen.ExitFort = true;
-    copenhagen.Encirclement = true;
     copenhagen.RepetitionLosesForDefenders = true;
 
+    // Fetlar's games go on after the defenders are closed in.
     Rules fetlar = ArchiveRules("Fetlar", "fetlar.txt",
                                 "name:Fetlar esc:c surf:n atkf:y tfr:i ka:y ks:y cenh:tcnk cenhe:tcnkTCNK");
     fetlar.KingTaken = KingCapture::Four;
+    fetlar.Encirclement = false;
 
     Rules brandubh = ArchiveRules("Brandubh", "brandubh.txt",
-                                  "name:Brandubh esc:c surf:n atkf:y tfr:i ka:y ks:c cenh:tcnk cenhe:tcnkTCNK");
+                                  "name:Brandubh esc:c surf:y atkf:y tfr:i ka:y ks:c cenh:tcnk cenhe:tcnkTCNK");
     brandubh.KingTaken = KingCapture::FourNearTheThroneElseTwo;
 
     Rules tablut = ArchiveRules("Tablut", "tablut.txt",
-                                "name:Tablut esc:e surf:n atkf:y tfr:i ka:y ks:c cenh:tcnk cenhe:tcnkTCNK cor:");
+                                "name:Tablut esc:e surf:y atkf:y tfr:i ka:y ks:c cenh:tcnk cenhe:tcnkTCNK cor:");
     tablut.KingEscape = Escape::Edges;
     tablut.CornersHostile = false;
     tablut.KingTaken = KingCapture::FourNearTheThroneElseTwo;
 
     Rules tawlbwrdd = ArchiveRules("Tawlbwrdd", "tawlbwrdd.txt",
-                                   "name:Tawlbwrdd esc:e surf:n atkf:y tfr:i ka:y ks:c cenh:tcnk cenhe:tcnkTCNK cor:");
+                                   "name:Tawlbwrdd esc:e surf:y atkf:y tfr:i ka:y ks:c cenh:tcnk cenhe:tcnkTCNK cor:");
     tawlbwrdd.KingEscape = Escape::Edges;
     tawlbwrdd.CornersHostile = false;
     tawlbwrdd.KingTaken = KingCapture::FourNearTheThroneElseTwo;

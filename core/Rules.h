@@ -50,6 +50,8 @@ struct Rules {
 
     // Taking the King is the whole move: nothing else is taken with him.
     bool KingCaptureIsWholeMove = true;
+    // The King's move home is the whole move: he takes nothing as he arrives.
+    bool KingHomeIsWholeMove = true;
     // A moved piece that finds the King sandwiched looks no further: the
     // directions after his are not looked at.
     bool SandwichedKingEndsCaptures = true;

@@ -176,12 +176,13 @@ bool ReadEnds(const Keys& k, Rules& r, std::string& reason) {
 }
 
 // The rules the keys say, as OpenTafl plays what they leave unsaid: the King
-// taken with the pieces his captor takes, every sandwich of the move looked
-// at, and a side that cannot move losing.
+// taken, or brought home, with the pieces the move takes, every sandwich of
+// the move looked at, and a side that cannot move losing.
 bool DescribedRules(const Keys& k, Rules& r, std::string& reason) {
     r = Rules{};
     r.Name = "OpenTafl";
     r.KingCaptureIsWholeMove = false;
+    r.KingHomeIsWholeMove = false;
     r.SandwichedKingEndsCaptures = false;
     r.NoMoveLoses = true;
     return ReadYesNo(k, "atkf", r.AttackersFirst, reason) && ReadFixedKeys(k, reason) && ReadKing(k, r, reason) &&
@@ -208,7 +209,7 @@ bool PlayAlike(Rules a, const Rules& b) {
 // named by the rules its own keys describe.
 bool BeyondTheKeys(const Rules& r) {
     return r.KingTaken == KingCapture::FourOrThreeAgainstTheEdge || r.KingCaptureIsWholeMove ||
-           r.SandwichedKingEndsCaptures || !r.NoMoveLoses;
+           r.KingHomeIsWholeMove || r.SandwichedKingEndsCaptures || !r.NoMoveLoses;
 }
 
 bool Names(const Rules& set, const Rules& read) {

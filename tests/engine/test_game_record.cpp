@@ -211,7 +211,7 @@ TEST(GameRecordExport, AGameUnderARuleSetIsWrittenWithItsRulesAndLoadsBackUnderT
     const std::string reached = LayoutLine(g);
     t.view.FileChoices = {"brandubh.otg", "brandubh.otg"};
     ExportGameRecordCommand(g);
-    EXPECT_EQ(t.ReadFile("brandubh.otg"), "[rules:dim:7 name:Brandubh esc:c surf:n atkf:y tfr:i ka:y ks:c cenh:tcnk "
+    EXPECT_EQ(t.ReadFile("brandubh.otg"), "[rules:dim:7 name:Brandubh esc:c surf:y atkf:y tfr:i ka:y ks:c cenh:tcnk "
                                           "cenhe:tcnkTCNK start:/7/6t/7/3K3/3t3/T6/7/]\r\n\r\n1. g2-d2\r\n");
     g.GameRules = Rules::Classic();
     LoadCommand(g);

@@ -43,10 +43,10 @@ TEST(RulesRecord, KeysNameTheRuleSetThatPlaysAlikeOrMakeRulesThatWriteBackToThem
     // else rules are made from the keys, and written back they read the same.
     const struct { const char* keys; const char* name; const char* written; } rows[] = {
         {"dim:11 name:Copenhagen atkf:y tfr:w sw:s efe:y", "Copenhagen", nullptr},   // as OpenTafl writes it
-        {"surf:n tfr:d ks:c", "Brandubh", nullptr},
-        {"name:Fetlar surf:n tfr:i ks:c", "Brandubh", nullptr},
-        {"esc:e cor: surf:n ks:c cenh:", "Tablut", nullptr},
-        {"name:tawlbwrdd esc:e cor: surf:n ks:c", "Tawlbwrdd", nullptr},
+        {"tfr:d ks:c", "Brandubh", nullptr},
+        {"name:Fetlar tfr:i ks:c", "Brandubh", nullptr},
+        {"esc:e cor: ks:c cenh:", "Tablut", nullptr},
+        {"name:tawlbwrdd esc:e cor: ks:c", "Tawlbwrdd", nullptr},
         {"esc:c surf:n atkf:y tfr:i ka:y ks:y cenh: cenhe: start:/3/1K1/3/", "Classic", nullptr},
         {"", "OpenTafl", "esc:c surf:y atkf:y tfr:i ka:y ks:y cenh:tcnk cenhe:tcnkTCNK"},
         {"esc:e cor: ka:n cens:tcnkTCNK cenh: cenhe: tfr:w",

@@ -1,0 +1,277 @@
+// The rule sets beside the classic one: recorded games replay under them move by move, and their move counts are pinned.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <fstream>
+#include <map>
+#include <set>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "core/RuleBoard.h"
+#include "records/GameRecord.h"
+#include "records/LayoutFile.h"
+#include "records/Notation.h"
+#include "records/Otn.h"
+#include "support/Fixtures.h"
+#include "support/LayoutText.h"
+
+using namespace jv;
+using jv::test::TestGame;
+
+namespace {
+
+// A move as the archive writes it ("d5-d6xc6xe6", "d11d9") in the program's written form ("d5-d6xc6/e6").
+std::string WrittenForm(std::string text) {
+    if (text.find('-') == std::string::npos) {
+        const auto second = std::find_if(text.begin() + 1, text.end(), [](char c) { return c >= 'a' && c <= 'z'; });
+        text.insert(second, '-');
+    }
+    for (std::size_t x = text.find('x'); (x = text.find('x', x + 1)) != std::string::npos;) text[x] = '/';
+    return text;
+}
+
+// One recorded game: its id, the side that moved first, the winner, its moves as written and the word that
+// ends it without a move ("resigned", "timeout"; "" when a move ends it).
+struct Record {
+    std::string Id, First, Winner;
+    std::vector<std::string> Moves;
+    std::string Ending;
+};
+
+// A file of recorded games: the opening as an OpenTafl position, then the games.
+struct Archive {
+    std::string Opening;
+    std::vector<Record> Games;
+};
+
+Archive ReadArchive(const std::string& path) {
+    Archive archive;
+    std::ifstream in(path);
+    std::string line;
+    std::getline(in, line);
+    archive.Opening = line.substr(line.find("): ") + 3);
+    while (std::getline(in, line)) {
+        if (line.empty() || line[0] == '#') continue;
+        std::istringstream fields(line);
+        Record game;
+        std::getline(fields, game.Id, '\t');
+        std::getline(fields, game.First, '\t');
+        std::getline(fields, game.Winner, '\t');
+        for (std::string move; fields >> move;) game.Moves.push_back(move);
+        if (!game.Moves.empty() && !IsStandardMoveText(WrittenForm(game.Moves.back()))) {
+            game.Ending = game.Moves.back();
+            game.Moves.pop_back();
+        }
+        archive.Games.push_back(game);
+    }
+    return archive;
+}
+
+// The side that has won when the game ends on the board after a move of `mover`; "" while it goes on.
+std::string WinnerOnBoard(const RuleBoard& board, int mover) {
+    switch (board.State()) {
+        case GameState::KingHome:
+        case GameState::KingInFort: return "defenders";
+        case GameState::KingTaken:
+        case GameState::DefendersEncircled: return "attackers";
+        case GameState::GoesOn: break;
+    }
+    if (board.RuleSet().NoMoveLoses && !board.HasMove()) return mover == AttackerCode ? "attackers" : "defenders";
+    return "";
+}
+
+std::string Names(const Game& g, const std::set<int>& cells) {
+    std::string names;
+    for (int cell : cells) names += " " + StandardSquare(g, ColOf(cell), RowOf(cell));
+    return names.empty() ? " nothing" : names;
+}
+
+// Why the game does not replay on the rule board from the opening g: a move the rules refuse, captures other
+// than those marked, an ending on the board before the record's last move or with another winner, or a last
+// move that ends nothing where the record names a winner and no word. "" when it replays fully.
+std::string ReplayFault(const Game& g, const Record& game) {
+    const std::string first = g.GameRules.AttackersFirst ? "attackers" : "defenders";
+    if (game.First != first) return "the " + game.First + " move first, not the " + first;
+    RuleBoard board(g, g.GameRules.AttackersFirst ? AttackerCode : DefenderCode);
+    // Some records mark no capture at all, and a move written without its hyphen never marks one.
+    const bool marked = std::any_of(game.Moves.begin(), game.Moves.end(),
+                                    [](const std::string& m) { return m.find('x') != std::string::npos; });
+    for (std::size_t i = 0; i < game.Moves.size(); ++i) {
+        const std::string where = "move " + std::to_string(i + 1) + " " + game.Moves[i] + ": ";
+        WrittenMove w;
+        if (!ReadStandardMove(g, WrittenForm(game.Moves[i]), w)) return where + "no move";
+        const int mover = board.SideToMove();
+        if (!board.Allows(w.Squares)) {
+            Game now = g;
+            board.WriteTo(now);
+            return where + RefuseWrittenMove(now, w, mover == AttackerCode ? 'a' : 'd');
+        }
+        MoveUndo undo;
+        board.Make(RuleBoard::ToBoardMove(w.Squares), undo);
+        std::set<int> taken(undo.Taken, undo.Taken + undo.Count), written;
+        for (const Square& s : w.Captures) written.insert(CellOf(s));
+        const bool hyphen = game.Moves[i].find('-') != std::string::npos;
+        if (marked && hyphen && taken != written) return where + "takes" + Names(g, taken) + ", marked" + Names(g, written);
+        const std::string winner = WinnerOnBoard(board, mover);
+        const bool last = i + 1 == game.Moves.size();
+        if (!winner.empty() && !last) return where + "ends the game, won by the " + winner;
+        if (!winner.empty() && winner != game.Winner) return where + "won by the " + winner + ", not the " + game.Winner;
+        if (last && winner.empty() && game.Ending.empty() && game.Winner != "draw")
+            return where + "the game goes on, where the " + game.Winner + " won";
+    }
+    return "";
+}
+
+const struct RuleSetGames {
+    const char* rules;
+    const char* file;
+    // The games that do not replay, each with the start of its fault.
+    std::map<std::string, std::string> faults;
+} Archives[] = {
+    // A capture marked beside no square of the move.
+    {"Copenhagen", "copenhagen.tsv", {{"game-16-82-29081", "move 23 h9-b9xg10: takes nothing, marked g10"}}},
+    {"Fetlar",
+     "fetlar.tsv",
+     {
+         // Two moves written again later: the piece has gone.
+         {"game-4-13-30202", "move 58 a6-a9: a6 holds no piece"},
+         {"game-4-48-20294", "move 5 a5-c5: a5 holds no piece"},
+         // Won by the attackers after a move that ends nothing on the board: the defenders gave up.
+         {"game-4-2-2747", "move 25 e11e9: the game goes on"},
+         {"game-4-58-19723", "move 67 b9-b7: the game goes on"},
+         {"game-4-137-15240", "move 147 g1-g2: the game goes on"},
+         {"game-4-148-18021", "move 133 k4-h4xh5: the game goes on"},
+     }},
+    // Captures marked beside no square of the move; the first game takes g5 again at move 13.
+    {"Brandubh",
+     "brandubh.tsv",
+     {
+         {"game-51-363-30145", "move 9 d6-f6xg5: takes nothing, marked g5"},
+         {"game-51-62-17183", "move 20 c2-f2xd3: takes nothing, marked d3"},
+         {"game-51-3-24832", "move 24 e7-f7xd6xf6: takes f6, marked d6 f6"},
+     }},
+    {"Tablut", "tablut.tsv", {}},
+    {"Tawlbwrdd", "tawlbwrdd.tsv", {{"game-76-149-22959", "move 13 b8-e8xe9xc7xe9: takes e9, marked c7 e9"}}},
+};
+
+// Small positions, each one move from an ending: the ranks from the top, each from file a.
+const auto ShieldwallAgainstACorner =
+    jv::test::LayoutText({"H.....H", ".......", "...K...", ".......", "...a...", ".aa....", "Hdd...H"});
+const auto KingInAShieldwall =
+    jv::test::LayoutText({"H.....H", ".......", "...a...", ".......", "...a...", ".aa....", "HKd...H"});
+const auto ShieldwallNotFacedWhole =
+    jv::test::LayoutText({"H.....H", ".......", "...K...", ".......", "...a...", "..a....", "Hdd...H"});
+const auto FortClosedOnD3 =
+    jv::test::LayoutText({"H.....H", ".......", "..a....", ".......", "..d...d", "..d.d..", "H.dKd.H"});
+const auto FortOpenOnD3 =
+    jv::test::LayoutText({"H.....H", ".......", "..a....", ".......", "......d", "..d.d..", "H.dKd.H"});
+const auto RingClosedOnF5 =
+    jv::test::LayoutText({"H.....H", "...aa..", "..ad..a", "..aKa..", "...a...", ".......", "H.....H"});
+const auto KingHomeBesideAnAttacker =
+    jv::test::LayoutText({"H.....H", ".......", "....a..", ".......", "K......", ".......", "Had...H"});
+
+}  // namespace
+
+TEST(RuleSets, RecordedGamesReplayUnderTheirRules) {
+    // Every recorded game of a rule set is allowed move by move, takes exactly the pieces it marks and ends
+    // on the board where and as the record ends, save the games listed with their fault.
+    for (const auto& set : Archives) {
+        const Rules* rules = FindRules(set.rules);
+        ASSERT_NE(rules, nullptr) << set.rules;
+        const Archive archive = ReadArchive(jv::test::TestDataPath(std::string("games/") + set.file));
+        ASSERT_EQ(archive.Games.size(), 150u) << set.file;
+        TestGame t;
+        ASSERT_TRUE(ReadLayoutFile(t.g, jv::test::DataPath(std::string(rules->Layout))).Ok());
+        std::string opening, reason;
+        ASSERT_TRUE(OtnToLayoutLine(archive.Opening, opening, reason)) << reason;
+        TestGame fromOtn;
+        ASSERT_TRUE(ApplyLayoutLine(fromOtn.g, opening).Ok());
+        EXPECT_EQ(OtnPosition(t.g), OtnPosition(fromOtn.g)) << set.rules << ": the shipped opening is the games' one";
+        t.g.GameRules = *rules;
+        for (const Record& game : archive.Games) {
+            const std::string fault = ReplayFault(t.g, game);
+            const auto known = set.faults.find(game.Id);
+            if (known == set.faults.end()) EXPECT_EQ(fault, "") << set.rules << " " << game.Id;
+            else EXPECT_EQ(fault.substr(0, known->second.size()), known->second) << set.rules << " " << game.Id;
+        }
+    }
+}
+
+TEST(RuleSets, MoveCountsArePinned) {
+    // The move counts from each opening with its side to move first, and from small positions where a line
+    // ends one move in; from the 11x11 opening with the attackers first they are those other tafl programs count.
+    const struct { const char* rules; std::string layout; int side; std::vector<std::uint64_t> counts; } rows[] = {
+        {"Copenhagen", "", AttackerCode, {116, 6788, 806344, 50456804}},
+        {"Fetlar", "", AttackerCode, {116, 6788, 806344}},
+        {"Brandubh", "", AttackerCode, {40, 960, 39512}},
+        {"Tablut", "", AttackerCode, {80, 4400, 353200}},
+        {"Tawlbwrdd", "", AttackerCode, {136, 7620, 1042016}},
+        {"Copenhagen", ShieldwallAgainstACorner, AttackerCode, {23, 349, 8808}},
+        {"Copenhagen", FortClosedOnD3, DefenderCode, {32, 275, 10155}},
+        // Three moves close the ring; in Fetlar the game goes on, and the defenders have one move after each.
+        {"Copenhagen", RingClosedOnF5, AttackerCode, {37, 135, 5222}},
+        {"Fetlar", RingClosedOnF5, AttackerCode, {37, 138, 5328}},
+        {"Fetlar", KingHomeBesideAnAttacker, DefenderCode, {21, 359, 7202}},
+    };
+    for (const auto& r : rows) {
+        const Rules& rules = *FindRules(r.rules);
+        TestGame t;
+        ASSERT_TRUE((r.layout.empty() ? ReadLayoutFile(t.g, jv::test::DataPath(std::string(rules.Layout)))
+                                      : ApplyLayoutLine(t.g, r.layout))
+                        .Ok());
+        t.g.GameRules = rules;
+        for (std::size_t depth = 1; depth <= r.counts.size(); ++depth)
+            EXPECT_EQ(RuleBoard(t.g, r.side).Perft(static_cast<int>(depth)), r.counts[depth - 1])
+                << r.rules << " " << r.layout << " depth " << depth;
+    }
+}
+
+TEST(RuleSets, ShieldwallsFortsRingsAndTheKingsArrivalEndAsTheirRulesSay) {
+    // A move's captures and the state it leaves: a shieldwall taken whole but the King, a fort the attackers
+    // cannot break, a ring round every defender, and the King's arrival home taking what it sandwiches.
+    const struct {
+        const char* what;
+        const char* rules;
+        std::string layout;
+        int side;
+        const char* move;
+        GameState state;
+        const char* taken;
+    } rows[] = {
+        {"a shieldwall closed against a corner", "Copenhagen", ShieldwallAgainstACorner, AttackerCode, "d3-d1",
+         GameState::GoesOn, " b1 c1"},
+        {"the King in a shieldwall stands", "Copenhagen", KingInAShieldwall, AttackerCode, "d3-d1", GameState::GoesOn,
+         " c1"},
+        {"a shieldwall not faced whole", "Copenhagen", ShieldwallNotFacedWhole, AttackerCode, "d3-d1",
+         GameState::GoesOn, " nothing"},
+        {"no shieldwalls in Fetlar", "Fetlar", ShieldwallAgainstACorner, AttackerCode, "d3-d1", GameState::GoesOn,
+         " nothing"},
+        {"a fort closed", "Copenhagen", FortClosedOnD3, DefenderCode, "g3-d3", GameState::KingInFort, " nothing"},
+        {"a fort whose wall on d3 two attackers could take", "Copenhagen", FortOpenOnD3, DefenderCode, "g3-d3",
+         GameState::GoesOn, " nothing"},
+        {"no forts in Fetlar", "Fetlar", FortClosedOnD3, DefenderCode, "g3-d3", GameState::GoesOn, " nothing"},
+        {"a ring closed", "Copenhagen", RingClosedOnF5, AttackerCode, "g5-f5", GameState::DefendersEncircled,
+         " nothing"},
+        {"a ring closed in Tablut", "Tablut", RingClosedOnF5, AttackerCode, "g5-f5", GameState::DefendersEncircled,
+         " nothing"},
+        {"no rings in Fetlar", "Fetlar", RingClosedOnF5, AttackerCode, "g5-f5", GameState::GoesOn, " nothing"},
+        {"the King home takes", "Fetlar", KingHomeBesideAnAttacker, DefenderCode, "a3-a1", GameState::KingHome, " b1"},
+        {"the King home is the whole move", "Classic", KingHomeBesideAnAttacker, DefenderCode, "a3-a1",
+         GameState::KingHome, " nothing"},
+    };
+    for (const auto& r : rows) {
+        TestGame t;
+        ASSERT_TRUE(ApplyLayoutLine(t.g, r.layout).Ok()) << r.what;
+        t.g.GameRules = *FindRules(r.rules);
+        WrittenMove w;
+        ASSERT_TRUE(ReadStandardMove(t.g, r.move, w)) << r.what;
+        RuleBoard board(t.g, r.side);
+        ASSERT_TRUE(board.Allows(w.Squares)) << r.what;
+        MoveUndo undo;
+        board.Make(RuleBoard::ToBoardMove(w.Squares), undo);
+        EXPECT_EQ(static_cast<int>(board.State()), static_cast<int>(r.state)) << r.what;
+        EXPECT_EQ(Names(t.g, std::set<int>(undo.Taken, undo.Taken + undo.Count)), r.taken) << r.what;
+    }
+}
