@@ -98,19 +98,6 @@ struct GameEngines {
     std::unique_ptr<EngineHost> Host[2];
 };
 
-// The move the side made between the two positions: the square its piece
-// left and the square it came to.
-Move MoveMade(const Position& before, const Position& after, int side) {
-    Move m;
-    for (int col = 1; col <= before.BoardWidth; ++col)
-        for (int row = 1; row <= before.BoardHeight; ++row) {
-            const bool was = before.Board(col, row) == side, is = after.Board(col, row) == side;
-            if (was && !is) m.From = Square{col, row};
-            if (!was && is) m.To = Square{col, row};
-        }
-    return m;
-}
-
 enum class Outcome { AttackersWin, DefendersWin, Draw };
 
 struct LayoutTally {
@@ -184,7 +171,7 @@ Outcome PlayGame(Game& g, const MatchOptions& o, int side, LayoutTally& tally) {
         engines.Process[s] = std::make_unique<EngineProcess>(o.Players[s].Engine);
         engines.Host[s] = std::make_unique<EngineHost>(*engines.Process[s]);
         std::string failure;
-        if (!engines.Process[s]->Started() || !engines.Host[s]->Start(g, s, EngineStartMillis, failure)) {
+        if (!engines.Process[s]->Started() || !engines.Host[s]->Start(g, s, side, EngineStartMillis, failure)) {
             std::cout << "the " << (s == AttackerCode ? "attackers'" : "defenders'")
                       << " engine lost: " << (failure.empty() ? "it could not be started" : failure) << '\n';
             return s == AttackerCode ? Outcome::DefendersWin : Outcome::AttackersWin;

@@ -18,7 +18,7 @@ const std::map<std::string, Command>& Commands() {
         {"analyse", {RunAnalyse, "analyse FILE|-      print the analysis of a layout"}},
         {"bench", {RunBench, "bench               the fixed benchmark work: its times, node count and signature"}},
         {"layout", {RunLayout, "layout FILE|-       print a layout line and its board"}},
-        {"replay", {RunReplay, "replay LOGFILE      print every position of a moves log"}},
+        {"replay", {RunReplay, "replay LOGFILE|RECORD.otg  print every position of a moves log or an OpenTafl game record"}},
         {"play", {RunPlay, "play FILE [--auto-reply] [--seed N] [--rules NAME] MOVE...  play moves and print what happens"}},
         {"perft", {RunPerft, "perft FILE|- DEPTH [--side attackers|defenders] [--rules NAME]  count the move sequences"}},
         {"rank", {RunRank, "rank attackers FILE | rank defenders FILE [--mode 1]  print a side's ranking"}},

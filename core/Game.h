@@ -2,6 +2,7 @@
 #include <array>
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -82,9 +83,10 @@ struct UserLists {
     std::vector<std::string> SearchLines;   // the strong player's thinking: depth, score, speed, line
 };
 
-// Which computer player plays a side: the classic ranked lists, or the
-// strong player's search.
-enum class PlayerKind { Classic, Strong };
+// Which computer player plays a side: the classic ranked lists, the
+// strong player's search, or an outside engine of the OpenTafl Engine
+// Protocol started from its command line.
+enum class PlayerKind { Classic, Strong, Engine };
 
 // The players' settings, kept in a settings file of their own beside the
 // configuration file.
@@ -93,6 +95,7 @@ struct PlayerChoice {
     PlayerKind Defenders = PlayerKind::Classic;
     int ThinkMillis = 1000;   // the strong player's thinking time for one move
     int UserSide = DefenderCode;   // the side the user's pointer plays; the computer answers with the other
+    std::string EngineCommand;     // the outside engine's command line, run by the shell
     friend bool operator==(const PlayerChoice&, const PlayerChoice&) = default;
 };
 
@@ -158,6 +161,9 @@ struct SessionState {
     // sets another.
     std::function<ClockReading()> Clock;
     GameView* View = nullptr;
+    // The outside engines playing in this game, each in its own process
+    // (session/EngineTurn.h); ended with the game's session.
+    std::shared_ptr<struct EngineSeats> Engines;
 };
 
 // The game: the parts above together. The procedures are free functions that

@@ -203,9 +203,32 @@ void WriteBack(const RuleBoard& board, Position& g) {
             if (g.Board(col, row) == EmptyCode) g.Board(col, row) = HomeCode;
 }
 
+// The threat the side that just moved on the board makes, as OpenTafl marks
+// it: "+" when the attackers, were it their turn again, could take the King;
+// "-" when the King, were it his side's turn again, could escape at once;
+// "" when the move threatens neither. The board is left as it was.
+std::string ThreatMark(RuleBoard& board, int mover) {
+    board.MakeNull();   // the mover's next move, as if the other side passed
+    std::string mark;
+    if (mover == DefenderCode) {
+        if (board.KingRoutes() > 0) mark = "-";
+    } else {
+        BoardMove moves[MaxMoves];
+        const int n = board.Generate(moves);
+        for (int i = 0; i < n && mark.empty(); ++i) {
+            MoveUndo undo;
+            board.Make(moves[i], undo);
+            if (board.State() == GameState::KingTaken) mark = "+";
+            board.Unmake(moves[i], undo);
+        }
+    }
+    board.UnmakeNull();
+    return mark;
+}
+
 // A move made on the rule board: the squares it took, in the order it took
 // them, and the mark written after it ("++" the King taken, "--" the King
-// home).
+// home, else the threat it makes, "+" or "-").
 struct MadeMove {
     std::vector<Square> Taken;
     std::string Mark;
@@ -219,7 +242,10 @@ MadeMove MakeOnBoard(Position& g, const Move& m, int side) {
     WriteBack(board, g);
     MadeMove made;
     for (int i = 0; i < undo.Count; ++i) made.Taken.push_back(Square{ColOf(undo.Taken[i]), RowOf(undo.Taken[i])});
-    made.Mark = board.State() == GameState::KingTaken ? "++" : board.State() == GameState::KingHome ? "--" : "";
+    made.Mark = board.State() == GameState::KingTaken ? "++"
+                : board.State() == GameState::KingHome  ? "--"
+                : board.State() == GameState::GoesOn    ? ThreatMark(board, side)
+                                                        : "";
     return made;
 }
 
@@ -564,7 +590,8 @@ OtnGameResult ReadOtnGame(const std::string& text) {
             result.Reason = where + refusal;
             return result;
         }
-        end = MakeOnBoard(g, w.Squares, side == 'a' ? AttackerCode : DefenderCode).Mark;
+        const std::string mark = MakeOnBoard(g, w.Squares, side == 'a' ? AttackerCode : DefenderCode).Mark;
+        if (mark == "++" || mark == "--") end = mark;   // a threat ("+", "-") ends nothing
         result.Positions.push_back(LineOf(g));
     }
     result.Ok = true;

@@ -1,6 +1,7 @@
 #include "records/PlayerSettings.h"
 
 #include <sstream>
+#include <utility>
 
 #include "records/TextFile.h"
 
@@ -8,10 +9,16 @@ namespace jv {
 
 namespace {
 
+constexpr std::pair<PlayerKind, const char*> KindWords[] = {
+    {PlayerKind::Classic, "classic"}, {PlayerKind::Strong, "strong"}, {PlayerKind::Engine, "engine"}};
+
 bool ReadKind(const std::string& value, PlayerKind& kind) {
-    if (value != "classic" && value != "strong") return false;
-    kind = value == "strong" ? PlayerKind::Strong : PlayerKind::Classic;
-    return true;
+    for (const auto& [k, word] : KindWords)
+        if (value == word) {
+            kind = k;
+            return true;
+        }
+    return false;
 }
 
 bool ReadThinkingTime(const std::string& value, int& millis) {
@@ -29,7 +36,13 @@ bool ReadSide(const std::string& value, int& side) {
     return true;
 }
 
-std::string KindWord(PlayerKind kind) { return kind == PlayerKind::Strong ? "strong" : "classic"; }
+std::string KindWord(PlayerKind kind) { return KindWords[static_cast<int>(kind)].second; }
+
+// The rest of an "engine" line, the command line as the user wrote it.
+std::string CommandOf(const std::string& line) {
+    const std::size_t start = line.find_first_not_of(" \t", line.find("engine") + 6);
+    return start == std::string::npos ? std::string() : line.substr(start);
+}
 
 }  // namespace
 
@@ -39,6 +52,10 @@ ReadResult ReadPlayersText(PlayerChoice& players, std::string_view text) {
         std::istringstream words(line);
         std::string name, value, extra;
         if (!(words >> name)) continue;   // a blank line
+        if (name == "engine") {
+            read.EngineCommand = CommandOf(line);
+            continue;
+        }
         words >> value;
         const bool taken = !(words >> extra) &&
                            ((name == "attackers" && ReadKind(value, read.Attackers)) ||
@@ -54,9 +71,12 @@ ReadResult ReadPlayersText(PlayerChoice& players, std::string_view text) {
 std::string PlayersText(const PlayerChoice& players) {
     return "attackers " + KindWord(players.Attackers) + "\r\ndefenders " + KindWord(players.Defenders) +
            "\r\nthink " + std::to_string(players.ThinkMillis) + "\r\nuser " +
-           (players.UserSide == AttackerCode ? "attackers" : "defenders") + "\r\n";
+           (players.UserSide == AttackerCode ? "attackers" : "defenders") + "\r\n" +
+           (players.EngineCommand.empty() ? "" : "engine " + players.EngineCommand + "\r\n");
 }
 
-const char* PlayerName(PlayerKind kind) { return kind == PlayerKind::Strong ? "Strong" : "Classic"; }
+const char* PlayerName(PlayerKind kind) {
+    return kind == PlayerKind::Engine ? "Engine" : kind == PlayerKind::Strong ? "Strong" : "Classic";
+}
 
 }  // namespace jv

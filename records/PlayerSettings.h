@@ -8,9 +8,11 @@
 namespace jv {
 
 // The players' settings file, "players.cfg" beside the configuration file:
-// one "name value" line each, "attackers classic|strong",
-// "defenders classic|strong", "think 200|1000|3000|10000" (milliseconds) and
-// "user defenders|attackers" (the side the user plays).
+// one "name value" line each, "attackers classic|strong|engine",
+// "defenders classic|strong|engine", "think 200|1000|3000|10000"
+// (milliseconds), "user defenders|attackers" (the side the user plays) and
+// "engine COMMAND LINE" (the outside engine's command line, the rest of the
+// line as written; no line when none is set).
 
 inline constexpr const char* PlayersFile = "players.cfg";
 
@@ -24,7 +26,7 @@ ReadResult ReadPlayersText(PlayerChoice& players, std::string_view text);
 // The text of the settings, each line ended by CR LF.
 std::string PlayersText(const PlayerChoice& players);
 
-// "Classic" or "Strong", as the window and the log name a player.
+// "Classic", "Strong" or "Engine", as the window and the log name a player.
 const char* PlayerName(PlayerKind kind);
 
 }  // namespace jv

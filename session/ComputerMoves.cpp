@@ -13,6 +13,7 @@
 #include "core/Move.h"
 #include "core/SortedList.h"
 #include "core/VbText.h"
+#include "session/EngineTurn.h"
 #include "session/PlayerMoves.h"
 #include "session/StrongTurn.h"
 #include "session/Undo.h"
@@ -145,14 +146,16 @@ void DropDefenderMove(Game& g, const Move& m) {
     g.DragSource = Square{};
 }
 
-// The strong player's turn: its move, thought over while the window stays
-// live, reaches the board as the classic player's would; a search stopped
-// by the user or by a change of the game makes no move.
-void PlayStrongMove(Game& g, int side) {
+// The turn of the strong player or an outside engine: its move, thought
+// over while the window stays live, reaches the board as the classic
+// player's would; a search stopped by the user or by a change of the game
+// makes no move.
+void PlayThoughtMove(Game& g, int side) {
     g.View->SetBusy(true);
     SetBoardEnabled(g, false);
     bool stopped = false;
-    const std::optional<Move> move = ThinkStrong(g, side, &stopped);
+    const std::optional<Move> move =
+        PlayerOf(g, side) == PlayerKind::Engine ? ThinkEngine(g, side, &stopped) : ThinkStrong(g, side, &stopped);
     if (move && side == AttackerCode) MakeAttackerMove(g, *move);
     if (move && side == DefenderCode) DropDefenderMove(g, *move);
     if (!move && !stopped) ShowNoMove(g, side);
@@ -163,8 +166,8 @@ void PlayStrongMove(Game& g, int side) {
 }  // namespace
 
 PlayerKind PlayerOf(const Game& g, int side) {
-    if (!PlaysClassicRules(g)) return PlayerKind::Strong;
-    return side == AttackerCode ? g.Players.Attackers : g.Players.Defenders;
+    const PlayerKind chosen = side == AttackerCode ? g.Players.Attackers : g.Players.Defenders;
+    return chosen == PlayerKind::Classic && !PlaysClassicRules(g) ? PlayerKind::Strong : chosen;
 }
 
 void MakeAutoMove(Game& g, int side) {
@@ -173,8 +176,8 @@ void MakeAutoMove(Game& g, int side) {
 }
 
 void MakeRedAutoMove(Game& g) {
-    if (PlayerOf(g, AttackerCode) == PlayerKind::Strong) {
-        PlayStrongMove(g, AttackerCode);
+    if (PlayerOf(g, AttackerCode) != PlayerKind::Classic) {
+        PlayThoughtMove(g, AttackerCode);
         return;
     }
     g.View->SetBusy(true);
@@ -204,8 +207,8 @@ void MakeRedAutoMove(Game& g) {
 }
 
 void MakeGreenAutoMove(Game& g) {
-    if (PlayerOf(g, DefenderCode) == PlayerKind::Strong) {
-        PlayStrongMove(g, DefenderCode);
+    if (PlayerOf(g, DefenderCode) != PlayerKind::Classic) {
+        PlayThoughtMove(g, DefenderCode);
         return;
     }
     g.View->SetBusy(true);

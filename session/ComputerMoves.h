@@ -6,9 +6,9 @@
 
 namespace jv {
 
-// The player that plays side in this game: the one chosen under the classic
-// rules; under any other rule set the strong player, the classic players
-// knowing the classic rules only.
+// The player that plays side in this game: the one chosen; under any rule
+// set but Classic the strong player stands in for a classic player, the
+// classic players knowing the classic rules only.
 PlayerKind PlayerOf(const Game& g, int side);
 
 // The computer's move for side: MakeRedAutoMove or MakeGreenAutoMove.

@@ -1,5 +1,7 @@
 #include "session/EngineHost.h"
 
+#include <algorithm>
+#include <chrono>
 #include <cstdio>
 #include <sstream>
 
@@ -47,6 +49,17 @@ std::string SimpleMoveText(const Position& g, const Move& m) {
            StandardSquareName(g.BoardWidth, m.To.Col, m.To.Row);
 }
 
+Move MoveMade(const Position& before, const Position& after, int side) {
+    Move m;
+    for (int col = 1; col <= before.BoardWidth; ++col)
+        for (int row = 1; row <= before.BoardHeight; ++row) {
+            const bool was = before.Board(col, row) == side, is = after.Board(col, row) == side;
+            if (was && !is) m.From = Square{col, row};
+            if (!was && is) m.To = Square{col, row};
+        }
+    return m;
+}
+
 bool EngineHost::ReadLine(std::string& line, int millis, std::string& failure) {
     switch (link_.Receive(line, millis)) {
         case EngineLink::Read::Line: return true;
@@ -63,13 +76,16 @@ bool EngineHost::ReadLine(std::string& line, int millis, std::string& failure) {
     return false;
 }
 
-bool EngineHost::Start(const Position& g, int side, int startMillis, std::string& failure) {
+bool EngineHost::Start(const Position& g, int side, int toMove, int startMillis, std::string& failure) {
+    // What the engine writes before its hello counts against the same time.
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::milliseconds(startMillis);
     std::string line;
     do {
-        if (!ReadLine(line, startMillis, failure)) return false;
+        const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(deadline - std::chrono::steady_clock::now());
+        if (!ReadLine(line, std::max<int>(0, static_cast<int>(left.count())), failure)) return false;
     } while (FirstWord(line) != "hello");
     const Game game = AsGame(g);
-    const bool attackersFirst = g.GameRules.AttackersFirst;
+    const bool attackersFirst = toMove == AttackerCode;
     link_.Send("rules dim:" + std::to_string(g.BoardWidth) + " " + RulesRecordKeys(g.GameRules, attackersFirst) +
                " start:" + OtnPosition(game));
     link_.Send(std::string("side ") + SideWord(side));

@@ -17,9 +17,10 @@ class EngineHost {
 public:
     explicit EngineHost(EngineLink& link) : link_(link) {}
 
-    // Waits for the engine's hello, then tells it the rules and the opening
-    // of the game and the side it plays. False with the reason.
-    bool Start(const Position& g, int side, int startMillis, std::string& failure);
+    // Waits up to startMillis for the engine's hello, then tells it the
+    // rules, the position its game starts from with toMove to move, and the
+    // side it plays. False with the reason.
+    bool Start(const Position& g, int side, int toMove, int startMillis, std::string& failure);
     // The engine's move for its side in the position, within millis of
     // thinking (and a margin); false with what the engine did wrong.
     bool AskMove(const Position& g, int side, int millis, Move& move, std::string& failure);
@@ -38,5 +39,9 @@ private:
 
 // A move in the protocol's simple notation ("a4-a1").
 std::string SimpleMoveText(const Position& g, const Move& m);
+
+// The move the side made between the two positions: the square its piece
+// left and the square it came to.
+Move MoveMade(const Position& before, const Position& after, int side);
 
 }  // namespace jv

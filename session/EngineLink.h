@@ -19,6 +19,9 @@ public:
     virtual Read Receive(std::string& line, int millis) = 0;
     // Ends the engine's process; what it still writes is not read.
     virtual void Stop() = 0;
+    // Called from another thread while one waits in Receive: that Receive
+    // returns Closed at once, and so does every later one; Stop still follows.
+    virtual void Interrupt() = 0;
 };
 
 }  // namespace jv

@@ -44,6 +44,7 @@ EngineProcess::EngineProcess(const std::string& commandLine) {
         close(input[1]);
         return;
     }
+    if (pipe2(wake_, O_CLOEXEC) != 0) wake_[0] = wake_[1] = -1;
     pid_ = StartShell(commandLine, input, output);
     close(input[0]);
     close(output[1]);
@@ -81,8 +82,9 @@ EngineLink::Read EngineProcess::Receive(std::string& line, int millis) {
         if (fromEngine_ < 0) return Read::Closed;
         const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(deadline - Clock::now()).count();
         if (left <= 0) return Read::TimedOut;
-        pollfd wait{fromEngine_, POLLIN, 0};
-        if (poll(&wait, 1, static_cast<int>(left)) <= 0) continue;
+        pollfd wait[2] = {{fromEngine_, POLLIN, 0}, {wake_[0], POLLIN, 0}};
+        if (poll(wait, wake_[0] >= 0 ? 2 : 1, static_cast<int>(left)) <= 0) continue;
+        if (wait[1].revents != 0) return Read::Closed;
         char buffer[4096];
         const ssize_t n = read(fromEngine_, buffer, sizeof buffer);
         if (n > 0) pending_.append(buffer, static_cast<std::size_t>(n));
@@ -96,11 +98,18 @@ void EngineProcess::Stop() {
         waitpid(pid_, nullptr, 0);
         pid_ = -1;
     }
-    for (int* fd : {&toEngine_, &fromEngine_})
+    for (int* fd : {&toEngine_, &fromEngine_, &wake_[0], &wake_[1]})
         if (*fd >= 0) {
             close(*fd);
             *fd = -1;
         }
+}
+
+void EngineProcess::Interrupt() {
+    // Only what is safe beside a Receive on another thread: the descriptors
+    // stay open until Stop.
+    if (pid_ > 0) kill(-pid_, SIGKILL);
+    if (wake_[1] >= 0) (void)!write(wake_[1], "x", 1);
 }
 
 }  // namespace jv

@@ -24,10 +24,12 @@ public:
     bool Send(const std::string& line) override;
     Read Receive(std::string& line, int millis) override;
     void Stop() override;
+    void Interrupt() override;
 
 private:
     pid_t pid_ = -1;
     int toEngine_ = -1, fromEngine_ = -1;
+    int wake_[2] = {-1, -1};   // a byte written here wakes a waiting Receive
     std::string pending_;   // read but not yet handed out as a line
 };
 

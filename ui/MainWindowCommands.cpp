@@ -5,11 +5,13 @@
 #include <QComboBox>
 #include <QEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QMouseEvent>
 #include <QPointer>
 #include <QPushButton>
 #include <QSplitter>
+#include <QStandardItemModel>
 
 #include "ai/AttackerRank.h"
 #include "ai/AttackerTactics.h"
@@ -74,19 +76,20 @@ void MainWindow::ConnectCommands() {
         connect(lists_.at(id), &QListWidget::pressed, this, [this, id] { PreviewListMove(id); });
     onClick("cmdhint", [this] { HintCommand(game_); });
     const auto choosePlayers = [this] {
-        // Under another rule set the boxes show the strong player, whatever the classic choice.
-        if (PlaysClassicRules(game_)) {
-            game_.Players.Attackers = findChild<QComboBox*>("AttackerPlayer")->currentIndex() == 1 ? PlayerKind::Strong
-                                                                                                   : PlayerKind::Classic;
-            game_.Players.Defenders = findChild<QComboBox*>("DefenderPlayer")->currentIndex() == 1 ? PlayerKind::Strong
-                                                                                                   : PlayerKind::Classic;
+        // Under another rule set a classic choice shows as the strong player and is kept while unchanged.
+        for (auto [name, kind] : {std::pair{"AttackerPlayer", &game_.Players.Attackers},
+                                  {"DefenderPlayer", &game_.Players.Defenders}}) {
+            const auto shown = static_cast<PlayerKind>(findChild<QComboBox*>(name)->currentIndex());
+            if (PlaysClassicRules(game_) || shown != PlayerKind::Strong || *kind == PlayerKind::Engine) *kind = shown;
         }
         game_.Players.ThinkMillis = findChild<QComboBox*>("ThinkingTime")->currentData().toInt();
         game_.Players.UserSide = findChild<QComboBox*>("UserSide")->currentIndex() == 1 ? AttackerCode : DefenderCode;
+        game_.Players.EngineCommand = findChild<QLineEdit*>("EngineCommand")->text().toStdString();
         WritePlayers(game_);
     };
     for (const char* name : {"AttackerPlayer", "DefenderPlayer", "ThinkingTime", "UserSide"})
         connect(findChild<QComboBox*>(name), &QComboBox::activated, this, choosePlayers);
+    connect(findChild<QLineEdit*>("EngineCommand"), &QLineEdit::editingFinished, this, choosePlayers);
     connect(picture_, &BoardPicture::EditorSquarePressed, this, &MainWindow::PlaceInEditor);
     ConnectDebugButtons();
 }
@@ -133,15 +136,18 @@ void MainWindow::PreviewListMove(ListId id) {
 void MainWindow::ShowPlayers() {
     const bool classic = PlaysClassicRules(game_);
     const QString rules = QString::fromUtf8(game_.GameRules.Name.data(), game_.GameRules.Name.size());
-    const QString onlyClassic = "Under the " + rules +
-                                " rules the strong player plays both sides: the classic players know the Classic "
-                                "rules only";
+    const QString tip = "Classic: the ranked lists. Strong: a search of the moves ahead. Engine: the OpenTafl "
+                        "engine started by the command line below";
+    const QString onlyClassic = "; under the " + rules + " rules the strong player stands in for Classic, which knows "
+                                "the Classic rules only";
     for (const auto& [name, side] : {std::pair{"AttackerPlayer", AttackerCode}, {"DefenderPlayer", DefenderCode}}) {
         auto* box = findChild<QComboBox*>(name);
-        box->setCurrentIndex(PlayerOf(game_, side) == PlayerKind::Strong);
-        box->setEnabled(classic);
-        box->setToolTip(classic ? "Classic: the ranked lists. Strong: a search of the moves ahead" : onlyClassic);
+        box->setCurrentIndex(static_cast<int>(PlayerOf(game_, side)));
+        // The classic player is offered under the classic rules only.
+        if (auto* model = qobject_cast<QStandardItemModel*>(box->model())) model->item(0)->setEnabled(classic);
+        box->setToolTip(classic ? tip : tip + onlyClassic);
     }
+    findChild<QLineEdit*>("EngineCommand")->setText(QString::fromStdString(game_.Players.EngineCommand));
     auto* time = findChild<QComboBox*>("ThinkingTime");
     time->setCurrentIndex(std::max(0, time->findData(game_.Players.ThinkMillis)));
     findChild<QComboBox*>("UserSide")->setCurrentIndex(game_.Players.UserSide == AttackerCode);

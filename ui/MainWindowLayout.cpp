@@ -10,6 +10,7 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QMenuBar>
 #include <QPushButton>
@@ -200,23 +201,29 @@ QWidget* MainWindow::BuildPlayerChoice() {
     for (int i = 0; i < 2; ++i) {
         auto* box = new QComboBox;
         box->setObjectName(sides[i].first);
-        box->addItems({"Classic", "Strong"});
+        box->addItems({"Classic", "Strong", "Engine"});
         grid->addWidget(new QLabel(sides[i].second), i, 0);
         grid->addWidget(box, i, 1);
     }
     auto* time = new QComboBox;
     time->setObjectName("ThinkingTime");
     for (int millis : ThinkingTimes) time->addItem(QString::number(millis / 1000.0) + " s", millis);
-    time->setToolTip("How long the strong player thinks about a move");
+    time->setToolTip("How long the strong player or the engine thinks about a move");
     grid->addWidget(new QLabel("Thinking:"), 2, 0);
     grid->addWidget(time, 2, 1);
+    auto* engine = new QLineEdit;
+    engine->setObjectName("EngineCommand");
+    engine->setPlaceholderText("engine command line");
+    engine->setToolTip("The command line that starts the Engine player, an OpenTafl engine, run by the shell");
+    grid->addWidget(new QLabel("Engine:"), 3, 0);
+    grid->addWidget(engine, 3, 1);
     auto* user = new QComboBox;
     user->setObjectName("UserSide");
     user->addItems({"Defenders", "Attackers"});
     user->setToolTip("The side you move on the board; the computer answers with the other");
-    grid->addWidget(new QLabel("You play:"), 3, 0);
-    grid->addWidget(user, 3, 1);
-    grid->addWidget(AddButton("cmdhint", "Hint", "The strong player's move for you, shown on the board"), 4, 0, 1, 2);
+    grid->addWidget(new QLabel("You play:"), 4, 0);
+    grid->addWidget(user, 4, 1);
+    grid->addWidget(AddButton("cmdhint", "Hint", "The strong player's move for you, shown on the board"), 5, 0, 1, 2);
     return choice;
 }
 

@@ -26,6 +26,9 @@ TEST(Cli, EachCommandPrintsItsResultOrRefusesWithItsExitCode) {
     t.WriteFile("small.txt", Small + "\r\n");
     t.WriteFile("game.txt", Small + "\r\n" + Moved + "\r\n" + KingMoved + "\r\n");
     t.WriteFile("noking.log", "03030000HEHE0EHEH\r\n");
+    const std::string brandubh = "[rules:dim:7 surf:n tfr:i ks:c start:/3t3/3t3/3T3/ttTKTtt/3T3/3t3/3t3/]\n\n1. d2-e2 ";
+    t.WriteFile("game.otg", brandubh + "c4-c5\n");
+    t.WriteFile("bad.otg", brandubh + "c4-h5\n");
     t.WriteFile("kingless.txt", "07070000HEE1EEHEEE1EEEEEE0EEE1100011EEE0EEEEEE1EEEHEE1EEH\r\n");
     t.WriteFile("kingonattacker.txt", "07070104HEE1EEHEEE1EEEEEE0EEE1100011EEE0EEEEEE1EEEHEE1EEH\r\n");
     t.WriteFile("two.txt", "02020101HHHH\r\n");
@@ -54,6 +57,10 @@ TEST(Cli, EachCommandPrintsItsResultOrRefusesWithItsExitCode) {
           "1. b4-d4 Kc3-c2"}, ""},
         {"record bad.txt", "", 2, {}, "Moves Log File:\nbad.txt\nline 3: the attackers move twice in a row, where a record has "
                                       "the sides take turns\n"},
+        {"replay game.otg", "", 0, {"Step 1 of 3", "D   a  a  d  K  d  a  a", "Step 2 of 3", "F   .  .  .  .  a  .  .",
+          "Step 3 of 3", "C   .  .  d  d  .  .  ."}, ""},
+        {"replay bad.otg", "", 2, {"Step 1 of 2", "Step 2 of 2", "F   .  .  .  .  a  .  ."},
+         "Error in game record bad.otg:\nmove 2 (c4-h5): not a move on this board\n"},
         {"replay game.txt", "", 0, {"Step 1 of 3", "    1  2  3  4  5", "B   .  a  .  .  .", "Step 3 of 3", "D   .  .  K  .  ."}, ""},
         {"play pattern1.txt 'user:0304>0302' 'user:0504>0502' 'user:0104>0105' 'user:0404>0304' 'user:0405>0404' "
          "'defender:0405>0404' 'attacker:0604>0504' undo 'defender:0403>0303'", "", 2,

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "core/Board.h"
 #include "core/RuleBoard.h"
 #include "records/LayoutFile.h"
 #include "records/Notation.h"
@@ -14,6 +15,9 @@
 #include "session/EngineHost.h"
 #include "session/EngineProcess.h"
 #include "session/EngineProtocol.h"
+#include "session/EngineTurn.h"
+#include "session/PlayerMoves.h"
+#include "session/ComputerMoves.h"
 #include "support/Fixtures.h"
 #include "support/RunCli.h"
 
@@ -34,6 +38,14 @@ void StartGame(TestGame& t, const char* ruleSet) {
 std::string RulesLine(const Game& g) {
     return "rules dim:" + std::to_string(g.BoardWidth) + " " + RulesRecordKeys(g.GameRules, g.GameRules.AttackersFirst) +
            " start:" + OtnPosition(g);
+}
+
+// A position as a game the notation helpers read.
+Game AsGame(const Position& p) {
+    Game g;
+    static_cast<Position&>(g) = p;
+    BuildColumnLetters(g);
+    return g;
 }
 
 // The engine's answers to the host's lines, in order.
@@ -77,6 +89,7 @@ public:
         return line == "<closed>" ? Read::Closed : Read::Line;
     }
     void Stop() override {}
+    void Interrupt() override {}
 };
 
 // The program's own engine at the far end of the link, in the same process.
@@ -91,6 +104,7 @@ public:
         return Read::Line;
     }
     void Stop() override {}
+    void Interrupt() override {}
 
 private:
     std::deque<std::string> answers_;
@@ -156,7 +170,7 @@ TEST(EngineProtocol, AnOutsideEngineLosesForWhatItDoesWrong) {
         link.Answers = r.answers;
         EngineHost host(link);
         std::string failure;
-        ASSERT_TRUE(host.Start(t.g, AttackerCode, 1000, failure)) << r.what;
+        ASSERT_TRUE(host.Start(t.g, AttackerCode, AttackerCode, 1000, failure)) << r.what;
         EXPECT_EQ(link.Sent.front().rfind("rules dim:11 ", 0), 0u) << r.what;
         Move move;
         EXPECT_EQ(host.AskMove(t.g, AttackerCode, 1, move, failure), *r.failure == '\0') << r.what;
@@ -173,7 +187,7 @@ TEST(EngineProtocol, TheProgramsOwnEngineIsAPlayerOfEveryRuleSet) {
             OwnEngine link;
             EngineHost host(link);
             std::string failure;
-            ASSERT_TRUE(host.Start(t.g, side, 1000, failure)) << rules.Name << ": " << failure;
+            ASSERT_TRUE(host.Start(t.g, side, t.g.GameRules.AttackersFirst ? AttackerCode : DefenderCode, 1000, failure)) << rules.Name << ": " << failure;
             Move move;
             ASSERT_TRUE(host.AskMove(t.g, side, 100, move, failure)) << rules.Name << ": " << failure;
             EXPECT_TRUE(RuleBoard(t.g, side).Allows(move)) << rules.Name;
@@ -199,11 +213,63 @@ TEST(EngineProtocol, TheToolsEngineSpeaksOnlyTheProtocolAndRunsInAProcessOfItsOw
     ASSERT_TRUE(process.Started());
     EngineHost host(process);
     std::string failure;
-    ASSERT_TRUE(host.Start(t.g, DefenderCode, 5000, failure)) << failure;
+    ASSERT_TRUE(host.Start(t.g, DefenderCode, AttackerCode, 5000, failure)) << failure;
     Move move;
     ASSERT_TRUE(host.AskMove(t.g, DefenderCode, 200, move, failure)) << failure;
     EXPECT_TRUE(RuleBoard(t.g, DefenderCode).Allows(move));
     process.Stop();
     std::string line;
     EXPECT_EQ(process.Receive(line, 100), EngineLink::Read::Closed);
+}
+
+TEST(EnginePlayer, PlaysItsSideInTheGameOrLosesSayingWhatItDid) {
+    // The Engine player's move is made once the rule board allows it, and the engine is told the game and each of
+    // its opponent's moves; an illegal move, an end, silence or garbage loses the game with a message naming it.
+    const struct { std::deque<std::string> answers; const char* lost; } rows[] = {
+        {{"hello", "move d2-c2", "move c2-c3"}, ""},
+        {{"hello", "move d2-d1"}, "the engine sent the illegal move \"d2-d1\""},
+        {{"hello", "<closed>"}, "the engine ended"},
+        {{"hello", "<silent>"}, "the engine did not answer within 1.2 s"},
+        {{"I resign"}, "the engine did not answer within 10.0 s"},
+        {{"hello", "I resign"}, "the engine wrote what is not the protocol: \"I resign\""},
+    };
+    for (const auto& r : rows) {
+        TestGame t;
+        StartGame(t, "Brandubh");
+        t.g.Players = {PlayerKind::Engine, PlayerKind::Classic, 200, DefenderCode, "my-engine"};
+        ScriptedEngine* link = nullptr;
+        int started = 0;
+        SetEngineStarter(t.g, [&](const std::string& command) {
+            EXPECT_EQ(command, "my-engine");
+            ++started;
+            auto made = std::make_unique<ScriptedEngine>();
+            made->Answers = r.answers;
+            link = made.get();
+            return made;
+        });
+        const Position before = t.g;
+        MakeRedAutoMove(t.g);
+        const std::string lost = *r.lost ? "The attackers' engine has lost: " + std::string(r.lost) : "";
+        EXPECT_EQ(t.g.GameOver, !lost.empty()) << r.lost;
+        if (!lost.empty()) {
+            ASSERT_FALSE(t.view.Messages().empty()) << r.lost;
+            EXPECT_EQ(t.view.Messages().back().rfind(lost, 0), 0u) << t.view.Messages().back();
+            EXPECT_NE(t.g.EventLog.back().find(lost), std::string::npos) << t.g.EventLog.back();
+            continue;
+        }
+        EXPECT_EQ(SimpleMoveText(t.g, MoveMade(before, t.g, AttackerCode)), "d2-c2");
+        ASSERT_EQ(link->Sent.front(), RulesLine(t.g).substr(0, RulesLine(t.g).find(" start:")) + " start:" +
+                                          OtnPosition(AsGame(before)));
+        // The defenders answer; the engine is told their move, not started again, and plays on from there.
+        t.g.Check1 = false;
+        WrittenMove reply;
+        ASSERT_TRUE(ReadStandardMove(t.g, "d3-e3", reply));
+        MakeDefenderMove(t.g, reply.Squares);
+        const Position told = t.g;
+        MakeRedAutoMove(t.g);
+        EXPECT_EQ(started, 1);
+        EXPECT_EQ(SimpleMoveText(t.g, MoveMade(told, t.g, AttackerCode)), "c2-c3");
+        EXPECT_NE(std::find(link->Sent.begin(), link->Sent.end(), "opponent-move d3-e3 " + OtnPosition(AsGame(told))),
+                  link->Sent.end());
+    }
 }

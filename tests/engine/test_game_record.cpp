@@ -41,9 +41,9 @@ TEST(GameRecord, TheMovesOfALoggedGameAreWrittenInTurnWithTheirCapturesAndReadBa
     const struct { const char* layout; const char* moves; Lines record; } rows[] = {
         {Start.c_str(), "D2124 A6764 D4441 A6461 R",
          {"[rules:dim:7 esc:c surf:n atkf:n tfr:i ka:y ks:y cenh: cenhe: start:/7/6t/7/3K3/3t3/T6/7/]", "",
-          "1. a6-d6xd5 g2-d2", "2. Kd4-a4 d2-a2"}},
+          "1. a6-d6xd5 g2-d2", "2. Kd4-a4- d2-a2"}},
         {"07070606HEEEEEHEEEEEEEEE1EEEEEE0EEEE10E01EEEEEEE0EHE1EEEH", "A7353 U6667 A5354 U6777",
-         {"1. c1-c3xb3/d3/c4 Kf2-g2", "2. c3-d3 Kg2-g1--"}},
+         {"1. c1-c3xb3/d3/c4 Kf2-g2-", "2. c3-d3 Kg2-g1--"}},
         {"07070401HEEEEEHEEEEEEE1EEEEEE01EEEEEEEE1EEE0EEEEEEHEEEEEH", "A5451",
          {"[rules:dim:7 esc:c surf:n atkf:y tfr:i ka:y ks:y cenh: cenhe: start:/7/T6/3t3/Kt5/t6/7/7/]", "",
           "1. d3-a3++"}},
@@ -111,6 +111,28 @@ TEST(GameRecord, AnOpenTaflRecordIsReadAndEachMoveTheRulesRefuseIsReported) {
     for (const auto& r : rows) {
         const OtnGameResult read = ReadOtnGame(r.record);
         EXPECT_EQ(read.Ok ? std::to_string(read.Positions.size() - 1) + " moves" : read.Reason, r.verdict) << r.record;
+    }
+}
+
+TEST(GameRecord, AMoveThatThreatensToWinIsMarked) {
+    // A written move ends with "+" when the attackers could take the King with their next move, "-" when the King
+    // could escape with his, and nothing when it threatens neither.
+    const std::string classic = "[rules:dim:7 esc:c surf:n tfr:i ka:y ks:y cenh: cenhe: ";
+    const std::string kingOnC1 = classic + "start:/1tK4/2t4/6t/7/7/7/7/]\n";
+    const std::string kingOnD4 = classic + "atkf:n start:/7/7/7/3K3/7/5t1/7/]\n";
+    const struct { std::string record; const char* written; } rows[] = {
+        {kingOnC1 + "1. g3-d3", "1. g3-d3+"},
+        {kingOnC1 + "1. g3-g4", "1. g3-g4"},
+        {kingOnD4 + "1. Kd4-a4 f6-a6", "1. Kd4-a4- f6-a6"},
+        {kingOnD4 + "1. Kd4-d5", "1. Kd4-d5"},
+    };
+    for (const auto& r : rows) {
+        const OtnGameResult read = ReadOtnGame(r.record);
+        ASSERT_TRUE(read.Ok) << read.Reason;
+        const GameRecordResult written = MakeGameRecord(read.Positions, read.GameRules);
+        ASSERT_TRUE(written.Ok) << written.Reason;
+        EXPECT_EQ(written.Lines.back(), r.written) << r.record;
+        EXPECT_TRUE(ReadOtnGame(JoinLines(written.Lines)).Ok) << "the marked record reads back: " << r.written;
     }
 }
 

@@ -14,9 +14,9 @@
 using namespace jv;
 using jv::test::TestGame;
 
-TEST(PlayerSettings, ReadsItsThreeSettingsOrRefusesTheTextWhole) {
-    // Each line names a side's player or the thinking time; any other line refuses the text and
-    // leaves the choice as it was; what is written reads back the same.
+TEST(PlayerSettings, ReadsItsSettingsOrRefusesTheTextWhole) {
+    // Each line names a side's player, the thinking time, the user's side or the engine's command line (kept as
+    // written); any other line refuses the text and leaves the choice as it was; what is written reads back the same.
     const PlayerChoice strong{PlayerKind::Strong, PlayerKind::Classic, 3000};
     const struct { const char* text; bool ok; PlayerChoice after; } rows[] = {
         {"attackers strong\r\ndefenders classic\r\nthink 3000\r\n", true, strong},
@@ -27,6 +27,9 @@ TEST(PlayerSettings, ReadsItsThreeSettingsOrRefusesTheTextWhole) {
         {"attackers strongest\n", false, {}},
         {"defenders classic extra\n", false, {}},
         {"", true, {}},
+        {"defenders engine\nengine  sh -c 'my engine' --depth 3 \n", true,
+         {PlayerKind::Classic, PlayerKind::Engine, 1000, DefenderCode, "sh -c 'my engine' --depth 3 "}},
+        {"attackers engines\n", false, {}},
     };
     for (const auto& r : rows) {
         PlayerChoice players;

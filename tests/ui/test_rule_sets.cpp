@@ -137,9 +137,9 @@ private slots:
         for (const Rules& rules : RuleSets()) QTest::newRow(rules.Name.data()) << QString::fromUtf8(rules.Name.data());
     }
     void TheClassicPlayersAreOfferedUnderTheClassicRulesOnly() {
-        // Under a rule set other than the classic one both players show "Strong" and cannot be changed, the
-        // tool tip saying why, the classic players' step buttons are off, and a thinking time chosen there
-        // leaves the classic choice kept in players.cfg as it was.
+        // Under a rule set other than the classic one both players show "Strong", Classic is not offered (Strong
+        // and Engine are), the tool tip saying why, the classic players' step buttons are off, and a thinking time
+        // chosen there leaves the classic choice kept in players.cfg as it was.
         QFETCH(QString, rules);
         const bool classic = rules == "Classic";
         StartedWindow s;
@@ -147,8 +147,10 @@ private slots:
         NewGameCommand(s.g(), {rules.toStdString(), std::string(FindRules(rules.toStdString())->Layout), DefenderCode});
         for (const char* name : {"AttackerPlayer", "DefenderPlayer"}) {
             auto* box = s.Find<QComboBox>(name);
-            QCOMPARE(std::pair(box->isEnabled(), box->currentText()), std::pair(classic, QString(classic ? "Classic" : "Strong")));
-            QCOMPARE(box->toolTip().endsWith("the classic players know the Classic rules only"), !classic);
+            QCOMPARE(box->currentText(), QString(classic ? "Classic" : "Strong"));
+            const auto* model = qobject_cast<QStandardItemModel*>(box->model());
+            QCOMPARE(std::pair(model->item(0)->isEnabled(), model->item(2)->isEnabled()), std::pair(classic, true));
+            QCOMPARE(box->toolTip().endsWith("which knows the Classic rules only"), !classic);
         }
         QCOMPARE(s.Find("cmdGetAttackerRank")->isEnabled(), classic);
         QTest::keyClick(s.Find<QComboBox>("ThinkingTime"), Qt::Key_Down);
