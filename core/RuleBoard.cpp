@@ -565,6 +565,19 @@ void RuleBoard::WriteTo(Position& g) const {
     g.KingRow = RowOf(king_);
 }
 
+RuleBoard BoardAfter(const Position& g, int side, const Move& m) {
+    RuleBoard board(g, side);
+    MoveUndo undo;
+    board.Make(RuleBoard::ToBoardMove(m), undo);
+    return board;
+}
+
+Position PositionAfter(const Position& g, int side, const Move& m) {
+    Position after = g;
+    BoardAfter(g, side, m).WriteTo(after);
+    return after;
+}
+
 bool IsLegalMove(const Position& g, int side, const Move& m) {
     return RuleBoard(g, side).Allows(m);
 }

@@ -201,6 +201,12 @@ private:
     std::uint64_t key_ = 0;
 };
 
+// The rule board after the side's move in the position; the board must
+// allow the move.
+RuleBoard BoardAfter(const Position& g, int side, const Move& m);
+// The position after the side's move, which the rule board must allow.
+Position PositionAfter(const Position& g, int side, const Move& m);
+
 // True when side (AttackerCode or DefenderCode) may make the move in the
 // game's position as it stands, the King's move onto a corner included.
 bool IsLegalMove(const Position& g, int side, const Move& m);

@@ -54,22 +54,13 @@ void EndSeat(EngineSeat& seat) {
     seat = EngineSeat{};
 }
 
-// The position after a move the rule board allows.
-Position After(const Position& g, int side, const Move& m) {
-    RuleBoard board(g, side);
-    MoveUndo undo;
-    board.Make(RuleBoard::ToBoardMove(m), undo);
-    Position after = g;
-    board.WriteTo(after);
-    return after;
-}
-
 // The opponent's one move that leads from the position the engine knows to
 // the game's; false when the game does not follow from it (an undo, a load,
 // the editor).
 bool OpponentMove(const EngineSeat& seat, const Game& g, int opponent, Move& m) {
     m = MoveMade(seat.Known, g, opponent);
-    return IsLegalMove(seat.Known, opponent, m) && EncodePosition(After(seat.Known, opponent, m)) == EncodePosition(g);
+    return IsLegalMove(seat.Known, opponent, m) &&
+           EncodePosition(PositionAfter(seat.Known, opponent, m)) == EncodePosition(g);
 }
 
 // The engine has lost: it is ended, the game is over and the automatic game
@@ -142,7 +133,7 @@ std::optional<Move> ThinkEngine(Game& g, int side, bool* stopped) {
         EngineLost(g, side, seat, failure);
         return std::nullopt;
     }
-    seat.Known = After(copy, side, move);
+    seat.Known = PositionAfter(copy, side, move);
     *stopped = false;
     return move;
 }

@@ -36,9 +36,7 @@ int FirstSide(const Position& g) { return g.GameRules.AttackersFirst ? AttackerC
 int SideToMove(const Game& g) { return g.Undo.size() % 2 == 0 ? FirstSide(g) : OtherSide(FirstSide(g)); }
 
 MoveEnd ForeseeMove(const Game& g, int side, const Move& m) {
-    RuleBoard board(g, side);
-    MoveUndo undo;
-    board.Make(RuleBoard::ToBoardMove(m), undo);
+    const RuleBoard board = BoardAfter(g, side, m);
     Position after = g;
     board.WriteTo(after);
     MoveEnd end{EndingOf(board.State()), EncodePosition(after)};
