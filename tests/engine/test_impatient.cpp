@@ -10,16 +10,13 @@
 #include "ai/AttackerRank.h"
 #include "session/PlayerMoves.h"
 #include "session/ComputerMoves.h"
-#include "core/Analysis.h"
 #include "core/Board.h"
 #include "session/LayoutEditor.h"
 #include "core/Move.h"
 #include "session/Pointer.h"
 #include "session/Session.h"
-#include "records/Configuration.h"
 #include "records/LayoutFile.h"
 #include "session/LayoutCommands.h"
-#include "session/Recording.h"
 #include "records/PositionRecord.h"
 #include "records/TextFile.h"
 #include "session/Undo.h"
@@ -29,7 +26,6 @@
 using namespace jv;
 using jv::test::RecordingView;
 using jv::test::TestGame;
-using jv::test::BadLayoutLines;
 using jv::test::StaleAnalysis;
 using jv::test::Unsound;
 using Lines = std::vector<std::string>;
@@ -81,11 +77,6 @@ struct Impatient {
     // How many lines of the log start with start.
     long Logged(const std::string& start) const {
         return std::count_if(g.EventLog.begin(), g.EventLog.end(), [&](const std::string& l) { return l.rfind(start, 0) == 0; });
-    }
-    // Switches the moves log on, named by a fixed clock.
-    void Record() {
-        g.Clock = [] { return ClockReading{3, 14, 9, 5}; };
-        RecordingSwitch(g, true);
     }
     // What is unsound or stale in the game ("" when nothing is).
     std::string Unsoundness() const { return Unsound(g) + StaleAnalysis(g); }
@@ -214,87 +205,4 @@ TEST(ImpatientUser, WhileTheComputerMovesTheBoardRefusesADragAndTheButtonsWork) 
     EditorCommand(s.g);
     EXPECT_EQ(EncodePosition(s.g), before);
     EXPECT_EQ(s.g.LayoutFile, s.t.Path("temporarylayout.txt"));
-}
-
-TEST(ImpatientUser, ExitDuringAMoveEndsItAndLeavesEveryFileWhole) {
-    // Exit during a move ends the program there and leaves the configuration and the moves log whole.
-    Impatient s;
-    LoadCaptures(s);
-    s.g.Check1 = true;
-    s.Record();
-    s.g.BoardStyle = 2;
-    s.view.At[1] = [&] { EXPECT_TRUE(ExitCommand(s.g)); };
-    ASSERT_TRUE(UserMove(s.g, 4, 9, 4, 5));
-    EXPECT_EQ(s.Logged("  Player2 Move"), 0);
-    std::size_t lines = 0;
-    EXPECT_EQ(BadLayoutLines(s.t.Path(s.g.MovesLogFile), lines), "");
-    EXPECT_EQ(lines, 1u);   // the position before the user's move
-    Impatient next;
-    next.t.WriteFile("jarlsvakt.cfg", s.t.ReadFile("jarlsvakt.cfg"));
-    ReadConfiguration(next.g, "jarlsvakt.cfg");
-    EXPECT_EQ(next.g.BoardStyle, 2);
-    EXPECT_EQ(next.t.ReadFile("jarlsvakt.cfg"), s.t.ReadFile("jarlsvakt.cfg"));   // not rewritten as unreadable
-}
-
-TEST(ImpatientUser, EveryCommandAtEveryPauseOfAMoveAndItsAnswerLeavesASoundGame) {
-    // Any command at any pause of a move and its answer leaves a sound game and whole layout files.
-    using Command = std::function<void(Impatient&)>;
-    const std::vector<std::pair<const char*, Command>> commands = {
-        {"reset", [](Impatient& s) { ResetCommand(s.g); }}, {"undo", [](Impatient& s) { UndoCommand(s.g); }},
-        {"load 7x7", [](Impatient& s) { s.view.FileChoices = {"pattern1.txt"}; LoadCommand(s.g); }},
-        {"load 13x13", [](Impatient& s) { s.view.FileChoices = {"pattern4.txt"}; LoadCommand(s.g); }},
-        {"undo list", [](Impatient& s) { Undo_MouseUp(s.g, static_cast<int>(s.g.Undo.size()) - 1); }},
-        {"editor", [](Impatient& s) { EditorCommand(s.g); }}, {"exit", [](Impatient& s) { ExitCommand(s.g); }},
-        {"editor twice", [](Impatient& s) { EditorCommand(s.g); EditorCommand(s.g); }},
-        {"save", [](Impatient& s) { s.view.FileChoices = {"saved.txt"}; SaveCommand(s.g); }},
-        {"recording", [](Impatient& s) { RecordingSwitch(s.g, !s.g.Check2); }},
-        {"replay", [](Impatient& s) { s.view.FileChoices = {s.g.MovesLogFile}; ReplayCommand(s.g); }},
-        {"second drop", [](Impatient& s) { UserMove(s.g, 8, 3, 8, 1); }},
-        {"attacker", [](Impatient& s) { MakeRedAutoMove(s.g); }}, {"random", [](Impatient& s) { RedGreenRandom(s.g); }},
-        {"defender", [](Impatient& s) { MakeGreenAutoMove(s.g); }},
-    };
-    for (const auto& [name, command] : commands)
-        for (int at = 1; at <= 4; ++at) {
-            Impatient s;
-            LoadCaptures(s);
-            s.Record();
-            s.g.Check1 = true;
-            const std::string log = s.g.MovesLogFile;
-            s.view.At[at] = [&s, &command] { command(s); };
-            UserMove(s.g, 4, 9, 4, 5);
-            const std::string where = std::string(name) + " at event " + std::to_string(at);
-            EXPECT_EQ(Unsound(s.g), "") << where;
-            std::size_t lines = 0;
-            EXPECT_EQ(BadLayoutLines(s.t.Path(log), lines), "") << where;
-            EXPECT_GE(lines, 1u) << where;
-            for (const char* file : {"saved.txt", "temporarylayout.txt", "templayout.txt"})
-                if (!s.t.ReadFile(file).empty()) EXPECT_EQ(BadLayoutLines(s.t.Path(file), lines), "") << where;
-        }
-}
-
-TEST(ImpatientUser, AutoGameSurvivesEveryCommandUntilTheExit) {
-    // The automatic game plays on through every command until the exit ends the program.
-    Impatient s;
-    Game& g = s.g;
-    s.t.CopyData("patf.txt");
-    LoadLayout(g, "patf.txt");
-    s.Record();
-    int tick = 0;
-    g.Random.Timer = [&tick] { return 100.0 + tick++ / 64.0; };
-    const std::vector<std::function<void()>> schedule = {
-        [&] { ResetCommand(g); }, [&] { UndoCommand(g); }, [&] { s.view.FileChoices = {"pattern1.txt"}; LoadCommand(g); },
-        [&] { EditorCommand(g); }, [&] { RedGreenRandom(g); }, [&] { EditorCommand(g); },
-        [&] { s.view.FileChoices = {"pattern4.txt"}; LoadCommand(g); }, [&] { Undo_MouseUp(g, 0); },
-        [&] { MakeGreenAutoMove(g); }, [&] { RedGreenRandom(g); },
-    };
-    for (std::size_t k = 0; k < schedule.size(); ++k) s.view.At[static_cast<int>(7 * k + 3)] = schedule[k];
-    const int exitAt = static_cast<int>(7 * schedule.size() + 10);
-    s.view.At[exitAt] = [&] { ExitCommand(g); };
-    AutoGame(g);
-    EXPECT_TRUE(g.Ending);
-    EXPECT_GE(s.view.Events, exitAt);
-    EXPECT_EQ(Unsound(g), "");
-    std::size_t lines = 0;
-    EXPECT_EQ(BadLayoutLines(s.t.Path(g.MovesLogFile), lines), "");
-    EXPECT_GT(lines, 5u);
 }

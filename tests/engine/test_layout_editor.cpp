@@ -5,7 +5,6 @@
 
 #include "session/LayoutEditor.h"
 #include "session/LayoutCommands.h"
-#include "session/Recording.h"
 #include "records/PositionRecord.h"
 #include "session/Undo.h"
 #include "support/Fixtures.h"
@@ -62,19 +61,6 @@ TEST(LayoutEditor, CornersAndTheKingsSquareAreNeverPaintedOver) {
     EXPECT_EQ(g.EditorGrid(7, 1), HomeCode);
     SwitchEditorOff(g);
     EXPECT_FALSE(PlaceInEditor(g, 2, 2, AttackerCode));
-}
-
-TEST(LayoutEditor, CommandsDoNothingWhileTheEditorIsOn) {
-    // Load, save, reset, undo and recording do nothing while the editor is on.
-    Editing t;
-    t.g.Undo = {"0404" + Seven.substr(8)};
-    t.view.FileChoices = {"pattern1.txt", "saved.txt", "moves.txt"};
-    t.view.Answers = {6, 6, 6};
-    for (void (*command)(Game&) : {LoadCommand, SaveCommand, ResetCommand, UndoCommand}) command(t.g);
-    RecordingSwitch(t.g, true);
-    EXPECT_TRUE(t.view.Calls.empty());
-    EXPECT_EQ(LayoutLine(t.g), Seven);
-    EXPECT_TRUE(t.g.Undo.size() == 1 && t.g.MovesLogFile.empty() && !t.g.Check2);
 }
 
 TEST(LayoutEditor, AnUnwritableFolderKeepsTheEditorOpen) {

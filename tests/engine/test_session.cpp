@@ -11,15 +11,6 @@ using namespace jv;
 using jv::test::TestGame;
 using Calls = std::vector<std::string>;
 
-TEST(StartUp, WithoutAllColTheProgramSaysSoAndEnds) {
-    // Without "all.col" the program says so and ends before anything else is read or loaded.
-    TestGame t;
-    EXPECT_FALSE(StartUp(t.g));
-    EXPECT_EQ(t.view.Calls, (Calls{"Show File: all.col is missing\r\nProgram cannot run without this file [vbok+vbcritical]",
-                                   "DoEvents", "EndProgram"}));
-    EXPECT_EQ(t.ReadFile("jarlsvakt.cfg"), "");   // nothing read or written
-}
-
 TEST(StartUp, ReadsTheSettingsThenLoadsTheConfiguredLayout) {
     // Start-up applies the configuration, then loads the layout it names and says Player1 moves first.
     TestGame t;
