@@ -71,13 +71,9 @@ Archive ReadArchive(const std::string& path) {
 
 // The side that has won when the game ends on the board after a move of `mover`; "" while it goes on.
 std::string WinnerOnBoard(const RuleBoard& board, int mover) {
-    switch (board.State()) {
-        case GameState::KingHome:
-        case GameState::KingInFort: return "defenders";
-        case GameState::KingTaken:
-        case GameState::DefendersEncircled: return "attackers";
-        case GameState::GoesOn: break;
-    }
+    const GameState state = board.State();
+    if (state == GameState::KingHome || state == GameState::KingInFort) return "defenders";
+    if (state == GameState::KingTaken || state == GameState::DefendersEncircled) return "attackers";
     if (board.RuleSet().NoMoveLoses && !board.HasMove()) return mover == AttackerCode ? "attackers" : "defenders";
     return "";
 }
@@ -159,18 +155,20 @@ const struct RuleSetGames {
 // Small positions, each one move from an ending: the ranks from the top, each from file a.
 const auto ShieldwallAgainstACorner =
     jv::test::LayoutText({"H.....H", ".......", "...K...", ".......", "...a...", ".aa....", "Hdd...H"});
-const auto KingInAShieldwall =
-    jv::test::LayoutText({"H.....H", ".......", "...a...", ".......", "...a...", ".aa....", "HKd...H"});
-const auto ShieldwallNotFacedWhole =
-    jv::test::LayoutText({"H.....H", ".......", "...K...", ".......", "...a...", "..a....", "Hdd...H"});
 const auto FortClosedOnD3 =
     jv::test::LayoutText({"H.....H", ".......", "..a....", ".......", "..d...d", "..d.d..", "H.dKd.H"});
-const auto FortOpenOnD3 =
-    jv::test::LayoutText({"H.....H", ".......", "..a....", ".......", "......d", "..d.d..", "H.dKd.H"});
 const auto RingClosedOnF5 =
     jv::test::LayoutText({"H.....H", "...aa..", "..ad..a", "..aKa..", "...a...", ".......", "H.....H"});
 const auto KingHomeBesideAnAttacker =
     jv::test::LayoutText({"H.....H", ".......", "....a..", ".......", "K......", ".......", "Had...H"});
+
+// A game under the named rules on a layout line, or on their shipped opening when there is none.
+void PlayOn(TestGame& t, const char* rules, const std::string& layout = "") {
+    const Rules& set = *FindRules(rules);
+    ASSERT_TRUE((layout.empty() ? ReadLayoutFile(t.g, jv::test::DataPath(std::string(set.Layout))) : ApplyLayoutLine(t.g, layout)).Ok())
+        << rules << " " << layout;
+    t.g.GameRules = set;
+}
 
 }  // namespace
 
@@ -178,18 +176,15 @@ TEST(RuleSets, RecordedGamesReplayUnderTheirRules) {
     // Every recorded game of a rule set is allowed move by move, takes exactly the pieces it marks and ends
     // on the board where and as the record ends, save the games listed with their fault.
     for (const auto& set : Archives) {
-        const Rules* rules = FindRules(set.rules);
-        ASSERT_NE(rules, nullptr) << set.rules;
+        ASSERT_NE(FindRules(set.rules), nullptr) << set.rules;
         const Archive archive = ReadArchive(jv::test::TestDataPath(std::string("games/") + set.file));
         ASSERT_EQ(archive.Games.size(), 150u) << set.file;
-        TestGame t;
-        ASSERT_TRUE(ReadLayoutFile(t.g, jv::test::DataPath(std::string(rules->Layout))).Ok());
+        TestGame t, fromOtn;
+        PlayOn(t, set.rules);
         std::string opening, reason;
         ASSERT_TRUE(OtnToLayoutLine(archive.Opening, opening, reason)) << reason;
-        TestGame fromOtn;
         ASSERT_TRUE(ApplyLayoutLine(fromOtn.g, opening).Ok());
         EXPECT_EQ(OtnPosition(t.g), OtnPosition(fromOtn.g)) << set.rules << ": the shipped opening is the games' one";
-        t.g.GameRules = *rules;
         for (const Record& game : archive.Games) {
             const std::string fault = ReplayFault(t.g, game);
             const auto known = set.faults.find(game.Id);
@@ -216,12 +211,8 @@ TEST(RuleSets, MoveCountsArePinned) {
         {"Fetlar", KingHomeBesideAnAttacker, DefenderCode, {21, 359, 7202}},
     };
     for (const auto& r : rows) {
-        const Rules& rules = *FindRules(r.rules);
         TestGame t;
-        ASSERT_TRUE((r.layout.empty() ? ReadLayoutFile(t.g, jv::test::DataPath(std::string(rules.Layout)))
-                                      : ApplyLayoutLine(t.g, r.layout))
-                        .Ok());
-        t.g.GameRules = rules;
+        PlayOn(t, r.rules, r.layout);
         for (std::size_t depth = 1; depth <= r.counts.size(); ++depth)
             EXPECT_EQ(RuleBoard(t.g, r.side).Perft(static_cast<int>(depth)), r.counts[depth - 1])
                 << r.rules << " " << r.layout << " depth " << depth;
@@ -231,44 +222,37 @@ TEST(RuleSets, MoveCountsArePinned) {
 TEST(RuleSets, ShieldwallsFortsRingsAndTheKingsArrivalEndAsTheirRulesSay) {
     // A move's captures and the state it leaves: a shieldwall taken whole but the King, a fort the attackers
     // cannot break, a ring round every defender, and the King's arrival home taking what it sandwiches.
-    const struct {
-        const char* what;
-        const char* rules;
-        std::string layout;
-        int side;
-        const char* move;
-        GameState state;
-        const char* taken;
-    } rows[] = {
-        {"a shieldwall closed against a corner", "Copenhagen", ShieldwallAgainstACorner, AttackerCode, "d3-d1",
-         GameState::GoesOn, " b1 c1"},
-        {"the King in a shieldwall stands", "Copenhagen", KingInAShieldwall, AttackerCode, "d3-d1", GameState::GoesOn,
-         " c1"},
-        {"a shieldwall not faced whole", "Copenhagen", ShieldwallNotFacedWhole, AttackerCode, "d3-d1",
-         GameState::GoesOn, " nothing"},
-        {"no shieldwalls in Fetlar", "Fetlar", ShieldwallAgainstACorner, AttackerCode, "d3-d1", GameState::GoesOn,
+    using jv::test::LayoutText;
+    using enum GameState;
+    const int a = AttackerCode, d = DefenderCode;
+    const auto &wall = ShieldwallAgainstACorner, &fort = FortClosedOnD3, &ring = RingClosedOnF5;
+    const auto& home = KingHomeBesideAnAttacker;
+    const struct { const char* what; const char* rules; std::string layout; int side; const char* move; GameState state;
+                   const char* taken; } rows[] = {
+        {"a shieldwall closed against a corner", "Copenhagen", wall, a, "d3-d1", GoesOn, " b1 c1"},
+        {"the King in a shieldwall stands", "Copenhagen",
+         LayoutText({"H.....H", ".......", "...a...", ".......", "...a...", ".aa....", "HKd...H"}), a, "d3-d1", GoesOn, " c1"},
+        {"a shieldwall not faced whole", "Copenhagen",
+         LayoutText({"H.....H", ".......", "...K...", ".......", "...a...", "..a....", "Hdd...H"}), a, "d3-d1", GoesOn,
          " nothing"},
-        {"a fort closed", "Copenhagen", FortClosedOnD3, DefenderCode, "g3-d3", GameState::KingInFort, " nothing"},
-        {"a fort whose wall on d3 two attackers could take", "Copenhagen", FortOpenOnD3, DefenderCode, "g3-d3",
-         GameState::GoesOn, " nothing"},
-        {"no forts in Fetlar", "Fetlar", FortClosedOnD3, DefenderCode, "g3-d3", GameState::GoesOn, " nothing"},
-        {"a ring closed", "Copenhagen", RingClosedOnF5, AttackerCode, "g5-f5", GameState::DefendersEncircled,
+        {"no shieldwalls in Fetlar", "Fetlar", wall, a, "d3-d1", GoesOn, " nothing"},
+        {"a fort closed", "Copenhagen", fort, d, "g3-d3", KingInFort, " nothing"},
+        {"a fort whose wall on d3 two attackers could take", "Copenhagen",
+         LayoutText({"H.....H", ".......", "..a....", ".......", "......d", "..d.d..", "H.dKd.H"}), d, "g3-d3", GoesOn,
          " nothing"},
-        {"a ring closed in Tablut", "Tablut", RingClosedOnF5, AttackerCode, "g5-f5", GameState::DefendersEncircled,
-         " nothing"},
-        {"no rings in Fetlar", "Fetlar", RingClosedOnF5, AttackerCode, "g5-f5", GameState::GoesOn, " nothing"},
-        {"the King home takes", "Fetlar", KingHomeBesideAnAttacker, DefenderCode, "a3-a1", GameState::KingHome, " b1"},
-        {"the King home is the whole move", "Classic", KingHomeBesideAnAttacker, DefenderCode, "a3-a1",
-         GameState::KingHome, " nothing"},
+        {"no forts in Fetlar", "Fetlar", fort, d, "g3-d3", GoesOn, " nothing"},
+        {"a ring closed", "Copenhagen", ring, a, "g5-f5", DefendersEncircled, " nothing"},
+        {"a ring closed in Tablut", "Tablut", ring, a, "g5-f5", DefendersEncircled, " nothing"},
+        {"no rings in Fetlar", "Fetlar", ring, a, "g5-f5", GoesOn, " nothing"},
+        {"the King home takes", "Fetlar", home, d, "a3-a1", KingHome, " b1"},
+        {"the King home is the whole move", "Classic", home, d, "a3-a1", KingHome, " nothing"},
     };
     for (const auto& r : rows) {
         TestGame t;
-        ASSERT_TRUE(ApplyLayoutLine(t.g, r.layout).Ok()) << r.what;
-        t.g.GameRules = *FindRules(r.rules);
+        PlayOn(t, r.rules, r.layout);
         WrittenMove w;
-        ASSERT_TRUE(ReadStandardMove(t.g, r.move, w)) << r.what;
         RuleBoard board(t.g, r.side);
-        ASSERT_TRUE(board.Allows(w.Squares)) << r.what;
+        ASSERT_TRUE(ReadStandardMove(t.g, r.move, w) && board.Allows(w.Squares)) << r.what;
         MoveUndo undo;
         board.Make(RuleBoard::ToBoardMove(w.Squares), undo);
         EXPECT_EQ(static_cast<int>(board.State()), static_cast<int>(r.state)) << r.what;
