@@ -14,6 +14,9 @@
 using namespace jv;
 using jv::test::TestGame;
 
+// The King on D4 with three attackers round him: an attacker onto D5 takes him.
+const char* const Takeable = "07070404" "HEEEEEH" "EEEEEEE" "EEE1EEE" "EE10E1E" "EEE1EEE" "EEEEEEE" "HEEEEEH";
+
 TEST(PlayerSettings, ReadsItsSettingsOrRefusesTheTextWhole) {
     // Each line names a side's player, the thinking time, the user's side or the engine's command line (kept as
     // written); any other line refuses the text and leaves the choice as it was; what is written reads back the same.
@@ -44,10 +47,9 @@ TEST(PlayerSettings, ReadsItsSettingsOrRefusesTheTextWhole) {
 TEST(StrongPlayer, PlaysItsSideAndStopsWhenTheGameChangesUnderIt) {
     // With the strong player on the attackers' side, the computer's move takes the King when one move
     // does; a move of the user's made while it thinks stops it, and it makes no move then.
-    const char* const takeable = "07070404" "HEEEEEH" "EEEEEEE" "EEE1EEE" "EE10E1E" "EEE1EEE" "EEEEEEE" "HEEEEEH";
     for (bool interrupted : {false, true}) {
         TestGame t;
-        ASSERT_TRUE(ApplyLayoutLine(t.g, takeable).Ok());
+        ASSERT_TRUE(ApplyLayoutLine(t.g, Takeable).Ok());
         t.g.Players = {PlayerKind::Strong, PlayerKind::Classic, 200};
         if (interrupted) t.view.OnEvents = [&] { t.g.Board(1, 2) = AttackerCode; };
         MakeRedAutoMove(t.g);
@@ -88,19 +90,14 @@ TEST(StrongPlayer, ComingBackToAPositionOfTheGameIsADrawForTheSideToMoveThere) {
 TEST(UserSide, TheUserMayPlayTheAttackersAndTheComputerAnswersWithTheDefenders) {
     // Playing the attackers, the user drags attackers only; a drop that surrounds the King takes him,
     // and any other drop is answered by the defenders.
-    const char* const takeable = "07070404" "HEEEEEH" "EEEEEEE" "EEE1EEE" "EE10E1E" "EEE1EEE" "EEEEEEE" "HEEEEEH";
-    TestGame t;
-    ASSERT_TRUE(ApplyLayoutLine(t.g, takeable).Ok());
-    t.g.Players.UserSide = AttackerCode;
-    EXPECT_FALSE(BeginDrag(t.g, 4, 4));   // the King is not the user's
-    ASSERT_TRUE(BeginDrag(t.g, 4, 6) && EndDrag(t.g, 4, 5));
-    EXPECT_TRUE(t.g.GameOver);
-    EXPECT_EQ(t.view.Messages(), std::vector<std::string>{"King Captured !\r\nClick Reset to start a new game [vbcritical+vbok]"});
-
-    TestGame u;
-    ASSERT_TRUE(ApplyLayoutLine(u.g, takeable).Ok());
-    u.g.Players.UserSide = AttackerCode;
-    ASSERT_TRUE(BeginDrag(u.g, 4, 6) && EndDrag(u.g, 4, 7));
-    EXPECT_FALSE(u.g.GameOver);
-    EXPECT_EQ(u.g.Undo.size(), 2u);   // the user's move and the defenders' answer
+    for (bool takes : {true, false}) {
+        TestGame t;
+        ASSERT_TRUE(ApplyLayoutLine(t.g, Takeable).Ok());
+        t.g.Players.UserSide = AttackerCode;
+        EXPECT_FALSE(BeginDrag(t.g, 4, 4));   // the King is not the user's
+        ASSERT_TRUE(BeginDrag(t.g, 4, 6) && EndDrag(t.g, 4, takes ? 5 : 7));
+        EXPECT_EQ(t.g.GameOver, takes);
+        EXPECT_EQ(t.g.Undo.size(), takes ? 1u : 2u);   // without the King taken, the defenders' answer follows
+        if (takes) EXPECT_EQ(t.view.Messages(), std::vector<std::string>{"King Captured !\r\nClick Reset to start a new game [vbcritical+vbok]"});
+    }
 }
