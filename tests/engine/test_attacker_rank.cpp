@@ -148,13 +148,5 @@ TEST(GetAttackerRank, NoAttackerIsSentToTheCentre) {
         ASSERT_FALSE(t.g.List1A.empty()) << row.board;
         for (const std::string& line : t.g.List2A) EXPECT_NE(line.substr(0, 4), centre) << row.board << ": " << line;
         for (const std::string& line : t.g.List1A) EXPECT_NE(line.substr(17, 4), centre) << row.board << ": " << line;
-
-        TestGame u;
-        ASSERT_TRUE(ApplyLayoutLine(u.g, row.layout).Ok());
-        MakeRedAutoMove(u.g);
-        EXPECT_EQ(u.g.Undo.size(), 1u) << row.board;
-        EXPECT_EQ(u.g.Board(row.centreCol, row.centreRow), EmptyCode) << row.board;
-        for (const std::string& line : u.g.EventLog)
-            EXPECT_EQ(line.find("not legal"), std::string::npos) << row.board << ": " << line;
     }
 }

@@ -133,40 +133,31 @@ TEST(Otn, APositionTheReaderWouldRefuseIsNeverWritten) {
     }
 }
 
-TEST(OtnFiles, AnOtnFileIsLoadedAndSavedLikeALayout) {
-    // An .otn file is loaded and saved like a layout, or reported when it holds no playable position.
+TEST(OtnFiles, AnOtnFileIsLoadedAndSavedLikeALayoutWithTheRulesRecordOfItsRuleSet) {
+    // An .otn file is loaded and saved like a layout, or reported when it holds no playable position; under any
+    // rule set but the classic it holds the rules record with the position, and loads back under those rules; a
+    // bare position keeps the rules in play, and a rules record they cannot play is refused.
     TestGame t;
     Game& g = t.g;
+    const Rules& tablut = *FindRules("Tablut");
     t.WriteFile("brandubh.otn", std::string(BrandubhOtn) + "\r\n");
     t.WriteFile("noking.otn", "/3/1T1/3/\r\n");
-    t.view.FileChoices = {"brandubh.otn", "noking.otn", "opening.OTN"};
+    t.WriteFile("weak.otn", "dim:7 ks:w start:" + std::string(BrandubhOtn) + "\r\n");
+    t.view.FileChoices = {"brandubh.otn", "noking.otn", "opening.OTN", "tablut.otn", "tablut.otn", "brandubh.otn", "weak.otn"};
     LoadCommand(g);
-    EXPECT_EQ(LayoutLine(g), BrandubhLine);
-    EXPECT_EQ(g.LayoutFile, g.ProgramFolder + "otnlayout.txt");
-    EXPECT_EQ(g.EventLog.back(), "OpenTafl position: brandubh.otn");
+    EXPECT_EQ(std::tuple(LayoutLine(g), g.LayoutFile, g.EventLog.back(), g.GameRules),
+              std::tuple(BrandubhLine, g.ProgramFolder + "otnlayout.txt", "OpenTafl position: brandubh.otn", Rules::Classic()));
     LoadCommand(g);
     EXPECT_EQ(t.view.Messages().back(), "OpenTafl Position File:\r\nnoking.otn\r\nholds no position JarlsVakt can play: "
                                         "the position has no King [vbcritical+vbok]");
     EXPECT_EQ(LayoutLine(g), BrandubhLine);
     SaveCommand(g);
     EXPECT_EQ(t.ReadFile("opening.OTN"), std::string(BrandubhOtn) + "\r\n");
-}
-
-TEST(OtnFiles, APositionUnderAnotherRuleSetIsSavedWithItsRulesRecordAndLoadsBackUnderThem) {
-    // Under any rule set but the classic an .otn file holds the rules record with the position, and loads back
-    // under those rules; a bare position keeps the rules in play, and a rules record they cannot play is refused.
-    TestGame t;
-    Game& g = t.g;
-    const Rules& tablut = *FindRules("Tablut");
-    t.WriteFile("brandubh.otn", std::string(BrandubhOtn) + "\r\n");
-    t.WriteFile("weak.otn", "dim:7 ks:w start:" + std::string(BrandubhOtn) + "\r\n");
-    t.view.FileChoices = {"brandubh.otn", "tablut.otn", "tablut.otn", "brandubh.otn", "weak.otn"};
-    LoadCommand(g);
-    EXPECT_EQ(g.GameRules, Rules::Classic());
     g.GameRules = tablut;
     SaveCommand(g);
     EXPECT_EQ(t.ReadFile("tablut.otn"), "dim:7 " + std::string(tablut.OpenTafl) + " start:" + BrandubhOtn + "\r\n");
     g.GameRules = Rules::Classic();
+    ASSERT_TRUE(ApplyLayoutLine(g, "03030202HEHE0EHEH").Ok());
     LoadCommand(g);
     EXPECT_EQ(g.GameRules, tablut);
     EXPECT_EQ(LayoutLine(g), BrandubhLine);
