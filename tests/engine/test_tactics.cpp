@@ -81,42 +81,32 @@ TEST(AttackerTactics, EachRuleNamesItsSquaresInItsOrder) {
 
 TEST(DefenderRank, TheRulesComeFirstAndTheBestCandidateHeadsTheList) {
     // The defenders' rules add their lines in order and List1D starts with the best-scored move.
-    struct Row { const char* rule; const char* layout; Lines lines; const char* best; };
+    // Their score adds 9999 for a free run, 1000 for home in two, 100 per edge square the King reaches,
+    // 1000 and 8000 for an attacker they can take beside a corner and 50 per line they hold round one.
+    struct Row { const char* rule; const char* layout; Lines lines; const char* best; int score; };
     const Row rows[] = {
         {"a free run", "07070104HEE0EEHEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEHEEEEEH",
          {"9999 0103,0102,0105,0106, will goto home", "9999 King to Home in 2 moves", "2000 King can move to border",
           "1000 King can go home indirect"},
-         "77001 22998 0104>0102"},
+         "77001 22998 0104>0102", 9999 + 5 * 100},
         {"own men on the run", "07070104H0E01EHEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEHEEEEEH",
          {"6000 0202,0302,0402,0502,0602,0702,0103, Remove green from King path", "2000 King can move to border",
           "1000 King can go home indirect"},
-         "90999 09000 0102>0103"},
+         "90999 09000 0102>0103", -1},
         {"one empty neighbour", "07070404HEEEEEHEEEEEEEEEE1EEEEE101EEEEEEEEEEEEEEEEHEEEEEH",
-         {"9999 0504, Avoid capture"}, "90000 09999 0404>0504"},
-        {"an attacker to take", "07070606HEEEEEHEEEEEEEE01EEEEEEEEEEEEEEEEEEEEE0E0EHEEEEEH", {"5000 0304, Capture Red"}, ""},
+         {"9999 0504, Avoid capture"}, "90000 09999 0404>0504", -1},
+        {"an attacker to take", "07070606HEEEEEHEEEEEEEE01EEEEEEEEEEEEEEEEEEEEE0E0EHEEEEEH", {"5000 0304, Capture Red"}, "", -1},
+        {"attackers beside a corner", "07070505H1EEE1HEEE1EEEEEEEEEEEE0E0EEEEE000EEEEE0EEHEEEEEH", {}, "", 1000 + 8000 + 8000 + 50},
+        {"home in two", "07070204HEEEEEHEEE0EEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEHEEEEEH", {}, "", 1000 + 4 * 100},
     };
     for (const Row& r : rows) {
         TestGame t;
         ASSERT_TRUE(ApplyLayoutLine(t.g, r.layout).Ok()) << r.rule;
+        if (r.score >= 0) EXPECT_EQ(RankOfGreen(t.g), r.score) << r.rule;
         GetDefenderRank(t.g, 0);
         const Lines& got = t.g.DefenderMovesRank;
         EXPECT_EQ(Lines(got.begin(), got.begin() + static_cast<long>(std::min(got.size(), r.lines.size()))), r.lines) << r.rule;
         if (*r.best) EXPECT_EQ(t.g.List1D.empty() ? "" : t.g.List1D.front(), r.best) << r.rule;
-    }
-}
-
-TEST(RankOfGreen, TheDefendersScoreWeighsTheKingsWayHomeAndAttackersBesideACorner) {
-    // The defenders' score adds 9999 for a free run, 1000 for home in two, 100 per edge square the King reaches,
-    // 1000 and 8000 for an attacker they can take beside a corner and 50 per line they hold round one.
-    const struct { const char* layout; int score; } rows[] = {
-        {"07070505H1EEE1HEEE1EEEEEEEEEEEE0E0EEEEE000EEEEE0EEHEEEEEH", 1000 + 8000 + 8000 + 50},
-        {"07070204HEEEEEHEEE0EEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEHEEEEEH", 1000 + 4 * 100},
-        {"07070104HEE0EEHEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEHEEEEEH", 9999 + 5 * 100},
-    };
-    for (const auto& r : rows) {
-        TestGame t;
-        ASSERT_TRUE(ApplyLayoutLine(t.g, r.layout).Ok());
-        EXPECT_EQ(RankOfGreen(t.g), r.score) << r.layout;
     }
 }
 
