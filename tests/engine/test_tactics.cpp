@@ -23,7 +23,6 @@ using Lines = std::vector<std::string>;
 TEST(AttackerTactics, EachRuleNamesItsSquaresInItsOrder) {
     // Each attackers' rule adds its lines, value first, in the order it examines the board.
     struct Row { const char* rule; void (*tactic)(Game&); const char* layout; Lines lines; };
-    const Lines around(4, "0200 0404 all U around King, take x-empty spaces");
     const Row rows[] = {
         {"direct run", BlockKingHome, "07070104HEE0EEHEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEHEEEEEH",
          {"99999 King can go Home direct, block=0103,0102,0105,0106,"}},
