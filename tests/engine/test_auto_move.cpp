@@ -10,7 +10,6 @@
 #include "session/Session.h"
 #include "core/VbText.h"
 #include "records/LayoutFile.h"
-#include "session/LayoutCommands.h"
 #include "records/PositionRecord.h"
 #include "support/Fixtures.h"
 #include "support/LayoutText.h"
@@ -31,8 +30,7 @@ TEST(MakeRedAutoMove, TiedBestMovesAreDrawnFromATimerSeededGenerator) {
     std::set<std::string> played;
     for (double seed : {12345.0, 1.5, 777.25, 40000.0, 86399.0, 3.0}) {
         TestGame t;
-        t.CopyData("patf.txt");
-        LoadLayout(t.g, "patf.txt");
+        ASSERT_TRUE(LoadPosition(t.g, "patf.txt").Ok());
         t.g.Random.Timer = [seed] { return seed; };
         MakeRedAutoMove(t.g);
         ASSERT_EQ(t.g.List3.size(), 8u) << seed;
@@ -129,8 +127,7 @@ TEST(RandomMover, PlaysTheSmallestDrawnLineOnTheBoardAsItStands) {
     EXPECT_TRUE(g.Undo.empty());
 
     TestGame u;
-    u.CopyData("patf.txt");
-    LoadLayout(u.g, "patf.txt");
+    ASSERT_TRUE(LoadPosition(u.g, "patf.txt").Ok());
     const std::string opening = EncodePosition(u.g);
     RedGreenRandom(u.g);
     EXPECT_EQ(u.g.Undo.size(), 20u);
