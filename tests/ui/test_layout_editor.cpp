@@ -11,9 +11,6 @@ namespace {
 
 struct Editing : StartedWindow {
     QWidget* palette() { return Find<QWidget>("Picture2"); }
-    void Send(QEvent::Type type, int col, int row, Qt::MouseButtons held) {
-        SendMouse(Board(), type, Board()->SquareCentre(col, row), held);
-    }
 };
 
 }  // namespace

@@ -93,17 +93,16 @@ private slots:
         StartedWindow s;
         s.g().Players.ThinkMillis = 200;
         NewGameCommand(s.g(), {"Copenhagen", "copenhagen.txt", DefenderCode});
-        const auto log = [&] { return Lines(s.Find<QListWidget>("EventLog")); };
-        QCOMPARE(log().at(1), std::string("  Player2 to move ..."));
-        QVERIFY(log().back().starts_with("  Player2 Move"));
+        QCOMPARE(s.Log().at(1), std::string("  Player2 to move ..."));
+        QVERIFY(s.Log().back().starts_with("  Player2 Move"));
         const Move move = FirstOffered(s.g(), DefenderCode);
         s.Drag(move.From, move.To);
         QCOMPARE(s.g().Undo.size(), 3u);
-        QVERIFY(log().back().starts_with("  Player2 Move"));
+        QVERIFY(s.Log().back().starts_with("  Player2 Move"));
         s.questions.AnswerTo["Reset layout?"] = 6;
         s.Press("cmdreset");
         QCOMPARE(s.g().Undo.size(), 1u);
-        QVERIFY(log().back().starts_with("  Player2 Move"));
+        QVERIFY(s.Log().back().starts_with("  Player2 Move"));
     }
 
     void TablutCornersAndThroneAreDrawnAndOffered() {
@@ -116,11 +115,10 @@ private slots:
         const QColor back = ui::ToQColor(s.g().ColourTable[2]), reach = ui::ToQColor(s.g().ColourTable[11]);
         QVERIFY(s.g().Board(1, 1) == EmptyCode && s.At(1, 1) == back);
         QVERIFY(s.At(5, 5) != back && s.At(5, 5) != reach);
-        ui::BoardPicture* b = s.Board();
-        SendMouse(b, QEvent::MouseButtonPress, b->SquareCentre(5, 2), Qt::LeftButton);
+        s.Send(QEvent::MouseButtonPress, 5, 2, Qt::LeftButton);
         QVERIFY(s.At(5, 4) == reach && s.At(5, 5) != reach && s.At(5, 6) == reach);
-        SendMouse(b, QEvent::MouseButtonRelease, b->SquareCentre(9, 9), Qt::NoButton);
-        SendMouse(b, QEvent::MouseButtonPress, b->SquareCentre(1, 4), Qt::LeftButton);
+        s.Send(QEvent::MouseButtonRelease, 9, 9, Qt::NoButton);
+        s.Send(QEvent::MouseButtonPress, 1, 4, Qt::LeftButton);
         QCOMPARE(s.At(1, 1), reach);
     }
 
