@@ -29,7 +29,6 @@ private slots:
         s.Press("cmdedit");
         QVERIFY(s.palette()->isHidden() && s.questions.Asked.empty());
         QCOMPARE(EncodePosition(s.g()), before);
-        QCOMPARE(std::pair(s.g().KingCol, s.g().KingRow), std::pair(6, 6));
         QCOMPARE(s.Find<QLabel>("LayoutName")->text(), QString("temporarylayout.txt"));
         QCOMPARE(s.folder.Read("temporarylayout.txt"), "1111" + before + "\r\n");
     }

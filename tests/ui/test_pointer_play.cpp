@@ -44,9 +44,7 @@ private slots:
     void RefusedDropGetsNoAnswer_data() {
         QTest::addColumn<Square>("from");
         QTest::addColumn<Square>("to");
-        QTest::newRow("diagonal") << Square{4, 6} << Square{5, 5};
         QTest::newRow("onto an attacker") << Square{4, 6} << Square{2, 6};
-        QTest::newRow("an attacker picked up") << Square{1, 4} << Square{3, 4};
         QTest::newRow("off the squares") << Square{4, 6} << Square{-1, -1};
     }
     void RefusedDropGetsNoAnswer() {
