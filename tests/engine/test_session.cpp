@@ -24,20 +24,6 @@ TEST(StartUp, ReadsTheSettingsThenLoadsTheConfiguredLayout) {
     EXPECT_EQ(t.g.EventLog, (Calls{"Loaded Layout: pattern1.txt", "  Player1 to move ..."}));
 }
 
-TEST(ExitCommand, OnlyYesWritesTheConfigurationAndEnds) {
-    // "Exit?" answered Yes writes the configuration and ends the program; No leaves everything as it was.
-    TestGame t;
-    t.WriteFile("jarlsvakt.cfg", "as it was");
-    t.view.Answers = {7, 6};
-    EXPECT_FALSE(ExitCommand(t.g));
-    EXPECT_EQ(t.ReadFile("jarlsvakt.cfg"), "as it was");
-    EXPECT_FALSE(t.view.Ended);
-    EXPECT_TRUE(ExitCommand(t.g));
-    EXPECT_EQ(t.view.Messages(), Calls(2, "Exit? [vbQuestion + vbYesNo]"));
-    EXPECT_EQ(t.ReadFile("jarlsvakt.cfg").substr(0, 16), "xp.col\r\npatf.txt");
-    EXPECT_TRUE(t.view.Ended);
-}
-
 TEST(AutoGame, APressWhileItPlaysStopsItAndARoundWithoutAMovePausesForIt) {
     // AutoGame pressed again stops it; when neither side can move, each round pauses, so the press gets in.
     TestGame t;

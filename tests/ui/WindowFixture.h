@@ -127,6 +127,13 @@ inline void Drag(ui::BoardPicture* picture, Square from, Square to) {
     SendMouse(picture, QEvent::MouseButtonRelease, end, Qt::NoButton);
 }
 
+// The lines of a list widget.
+inline std::vector<std::string> Lines(const QListWidget* list) {
+    std::vector<std::string> lines;
+    for (int i = 0; i < list->count(); ++i) lines.push_back(list->item(i)->text().toStdString());
+    return lines;
+}
+
 // A window (MainWindow or one made for a test) started in its own program folder, shown, its questions
 // answered from a script, its files chosen from a list and its pauses cut to nothing.
 template <typename Window = ui::MainWindow>
@@ -150,9 +157,19 @@ struct Started {
     ui::BoardPicture* Board() { return window.Board(); }
     void Press(const char* name) { QTest::mouseClick(Find<QWidget>(name), Qt::LeftButton); }
     void Drag(Square from, Square to) { uitest::Drag(Board(), from, to); }
+    // One mouse event at the centre of a square.
+    void Send(QEvent::Type type, int col, int row, Qt::MouseButtons held) {
+        SendMouse(Board(), type, Board()->SquareCentre(col, row), held);
+    }
     void Click(int col, int row) {
-        SendMouse(Board(), QEvent::MouseButtonPress, Board()->SquareCentre(col, row), Qt::LeftButton);
-        SendMouse(Board(), QEvent::MouseButtonRelease, Board()->SquareCentre(col, row), Qt::NoButton);
+        Send(QEvent::MouseButtonPress, col, row, Qt::LeftButton);
+        Send(QEvent::MouseButtonRelease, col, row, Qt::NoButton);
+    }
+    // The event log's lines, and how many of them contain part.
+    std::vector<std::string> Log() { return Lines(Find<QListWidget>("EventLog")); }
+    int Logged(const std::string& part) {
+        const auto log = Log();
+        return int(std::count_if(log.begin(), log.end(), [&](const std::string& l) { return l.find(part) != std::string::npos; }));
     }
     QImage Picture() { return Board()->Pixmap().toImage(); }
     QColor At(int col, int row) { return Picture().pixelColor(Board()->SquareCentre(col, row)); }
@@ -164,12 +181,5 @@ struct Started {
     }
 };
 using StartedWindow = Started<>;
-
-// The lines of a list widget.
-inline std::vector<std::string> Lines(const QListWidget* list) {
-    std::vector<std::string> lines;
-    for (int i = 0; i < list->count(); ++i) lines.push_back(list->item(i)->text().toStdString());
-    return lines;
-}
 
 }  // namespace jv::uitest

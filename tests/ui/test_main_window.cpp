@@ -22,7 +22,7 @@ private slots:
         QStringList labels;
         for (const char* name : {"LayoutName", "ptot0", "ptot1"}) labels << s.Find<QLabel>(name)->text();
         QCOMPARE(labels, (QStringList{"patf.txt", "12", "24"}));
-        const auto log = Lines(s.Find<QListWidget>("EventLog"));
+        const auto log = s.Log();
         QCOMPARE(log.front() + "|" + log.back(), std::string("Loaded Layout: patf.txt|  Player1 to move ..."));
         QVERIFY(s.questions.Asked.empty());
         QCOMPARE(s.window.palette().color(QPalette::Window), QColor(236, 233, 216));   // xp's window background
