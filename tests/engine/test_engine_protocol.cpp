@@ -121,15 +121,10 @@ TEST(EngineProtocol, TheEngineKeepsTheGameAndAnswersTheHost) {
     const std::string rules = RulesLine(t.g);
     const std::string opening = "d2-c2";   // an attacker's first move in the opening
     ASSERT_TRUE(Legal(t.g, AttackerCode, opening));
+    WrittenMove w;
+    ASSERT_TRUE(ReadStandardMove(t.g, opening, w));
     Game after = t.g;
-    {
-        RuleBoard board(after, AttackerCode);
-        WrittenMove w;
-        ASSERT_TRUE(ReadStandardMove(after, opening, w));
-        MoveUndo undo;
-        board.Make(RuleBoard::ToBoardMove(w.Squares), undo);
-        board.WriteTo(after);
-    }
+    static_cast<Position&>(after) = PositionAfter(t.g, AttackerCode, w.Squares);
 
     const Lines first = EngineAnswers({rules, "side attackers", "play attackers", "clock 2 2 0 0 0"});
     EXPECT_TRUE(Legal(t.g, AttackerCode, OnlyLine(first, "move").substr(5))) << OnlyLine(first, "move");
