@@ -90,8 +90,9 @@ void EngineProtocol::ReadRules(const std::string& record) {
         }
     }
     std::string line;
-    if (!ReadRulesRecord(record, rules, attackersFirst, reason) ||
-        (otn.empty() && (reason = "no start position", true)) || !OtnToLayoutLine(otn, line, reason, inverted) ||
+    const bool rulesRead = ReadRulesRecord(record, rules, attackersFirst, reason);
+    if (rulesRead && otn.empty()) reason = "no start position";
+    if (!rulesRead || otn.empty() || !OtnToLayoutLine(otn, line, reason, inverted) ||
         !ApplyLayoutLine(game_, line).Ok()) {
         send_("error 0 " + (reason.empty() ? std::string("the start position cannot be played") : reason));
         return;
