@@ -20,6 +20,13 @@ struct SearchLimits {
     // The keys (PositionKey) of the positions the game has already been in: a
     // line that comes back to one scores as a draw.
     std::vector<std::uint64_t> Played;
+    // Threads searching together on one table; one searches exactly as
+    // always, move for move and node for node.
+    int Threads = 1;
+    // Millis is then the most the search may take: it stops sooner once the
+    // best move is clear (the only move, or the same move for several depths
+    // with a steady score).
+    bool StopWhenClear = false;
 };
 
 // Scores are from the side to move, in hundredths of a defender; a won game
