@@ -4,6 +4,7 @@
 #include <array>
 #include <chrono>
 #include <cstdlib>
+#include <thread>
 
 #include "ai/Evaluation.h"
 #include "core/RuleBoard.h"
@@ -35,6 +36,10 @@ constexpr int Contempt = 40;
 // Moves picked one by one before the rest of a node's moves is sorted.
 constexpr int SortedPicks = 3;
 
+// A best move whose score falls by more than this from one depth to the next
+// is not yet clear.
+constexpr int ClearFall = 30;
+
 // Sorts moves by their order numbers, highest first.
 void SortRest(BoardMove* moves, int* order, int n) {
     struct Scored {
@@ -58,10 +63,21 @@ bool Beside(int a, int b) { return a >= 0 && (std::abs(a - b) == 1 || std::abs(a
 int ToTable(int score, int ply) { return IsWinScore(score) ? score + ply : IsWinScore(-score) ? score - ply : score; }
 int FromTable(int score, int ply) { return IsWinScore(score) ? score - ply : IsWinScore(-score) ? score + ply : score; }
 
+// What the threads of one search share: the table, the count of their nodes,
+// and the word that ends the helpers once the first thread is done.
+struct SharedSearch {
+    explicit SharedSearch(std::size_t megabytes) : Table(megabytes) {}
+    TranspositionTable Table;
+    std::atomic<std::uint64_t> Nodes{0};
+    std::atomic<bool> Done{false};
+};
+
 class Searcher {
 public:
-    Searcher(const Position& g, int side, const SearchLimits& limits)
-        : board_(g, side), table_(limits.TableMegabytes), limits_(limits),
+    // Thread 0 leads the search and reports; the others help it fill the
+    // table, every odd one a depth ahead of it so that their work differs.
+    Searcher(const Position& g, int side, const SearchLimits& limits, SharedSearch& shared, int thread)
+        : board_(g, side), table_(shared.Table), shared_(shared), limits_(limits), thread_(thread),
           history_(2 * CellCount * CellCount, 0), start_(Clock::now()),
           deadline_(start_ + std::chrono::milliseconds(limits.Millis)) {
         for (std::uint64_t key : limits.Played) played_[key % played_.size()] = true;
@@ -70,6 +86,7 @@ public:
     SearchResult Run(const std::function<void(const SearchProgress&)>& onProgress);
 
 private:
+    bool Clear(const SearchResult& result, const SearchResult& before, int moves, int& steadyDepths) const;
     int Negamax(int depth, int alpha, int beta, int ply, bool nullAllowed);
     int Quiesce(int alpha, int beta, int ply, int qply);
     int Evaluate() const {
@@ -92,8 +109,10 @@ private:
     std::vector<Move> Pv() const;
 
     RuleBoard board_;
-    TranspositionTable table_;
+    TranspositionTable& table_;
+    SharedSearch& shared_;
     SearchLimits limits_;
+    int thread_ = 0;
     std::array<std::uint64_t, SearchMaxPly + 1> keys_{};
     std::array<std::array<BoardMove, 2>, SearchMaxPly> killers_{};
     std::vector<int> history_;
@@ -117,6 +136,8 @@ int Searcher::DrawScore(int ply) const { return ply % 2 == 0 ? -Contempt : Conte
 
 bool Searcher::Stopped() {
     if ((nodes_ & 1023) == 0 && !stopped_) {
+        shared_.Nodes.fetch_add(1024, std::memory_order_relaxed);
+        if (shared_.Done.load(std::memory_order_relaxed)) stopped_ = true;
         if (limits_.Stop && limits_.Stop->load(std::memory_order_relaxed)) stopped_ = true;
         if (limits_.Millis > 0 && Clock::now() >= deadline_) stopped_ = true;
     }
@@ -233,12 +254,13 @@ int Searcher::Negamax(int depth, int alpha, int beta, int ply, bool nullAllowed)
     if (Stopped()) return 0;
 
     const bool pvNode = beta - alpha > 1;
-    const TableEntry* entry = table_.Find(board_.Key());
-    const BoardMove tableMove = entry ? entry->Move : BoardMove{};
-    if (entry && !pvNode && entry->Depth >= depth) {
-        const int score = FromTable(entry->Score, ply);
-        if (entry->Kind == Bound::Exact || (entry->Kind == Bound::Lower && score >= beta) ||
-            (entry->Kind == Bound::Upper && score <= alpha))
+    TableEntry entry;
+    const bool known = table_.Find(board_.Key(), entry);
+    const BoardMove tableMove = known ? entry.Move : BoardMove{};
+    if (known && !pvNode && entry.Depth >= depth) {
+        const int score = FromTable(entry.Score, ply);
+        if (entry.Kind == Bound::Exact || (entry.Kind == Bound::Lower && score >= beta) ||
+            (entry.Kind == Bound::Upper && score <= alpha))
             return score;
     }
 
@@ -324,6 +346,17 @@ std::vector<Move> Searcher::Pv() const {
     return line;
 }
 
+// Whether the search may stop before its time: the only move, or the same
+// best move for several depths without its score falling, seen after a part
+// of the time that shrinks the steadier the move has been.
+bool Searcher::Clear(const SearchResult& result, const SearchResult& before, int moves, int& steadyDepths) const {
+    if (moves == 1) return true;
+    const bool steady = before.Depth > 0 && result.Best == before.Best && result.Score >= before.Score - ClearFall;
+    steadyDepths = steady ? steadyDepths + 1 : 0;
+    const double share = steadyDepths >= 3 ? 0.15 : steadyDepths >= 1 ? 0.3 : 0.5;
+    return Seconds() * 1000 > share * limits_.Millis;
+}
+
 SearchResult Searcher::Run(const std::function<void(const SearchProgress&)>& onProgress) {
     SearchResult result;
     BoardMove moves[MaxMoves];
@@ -332,22 +365,27 @@ SearchResult Searcher::Run(const std::function<void(const SearchProgress&)>& onP
     result.HasMove = true;
     result.Best = RuleBoard::ToMove(moves[0]);   // should even the first depth be cut short
     keys_[0] = board_.Key();
-    for (int depth = 1; depth <= std::min(limits_.MaxDepth, SearchMaxPly / 2); ++depth) {
+    int steadyDepths = 0;
+    for (int depth = 1 + thread_ % 2; depth <= std::min(limits_.MaxDepth, SearchMaxPly / 2); ++depth) {
         const int score = Negamax(depth, -Infinity, Infinity, 0, false);
         if (stopped_) {
             if (depth == 1 && pvLength_[0] > 0) result.Best = RuleBoard::ToMove(pv_[0][0]);
             break;
         }
+        const SearchResult before = result;
         result.Score = score;
         result.Depth = depth;
         result.Pv = Pv();
         if (!result.Pv.empty()) result.Best = result.Pv.front();
+        if (thread_ > 0) continue;
         const double seconds = Seconds();
+        const std::uint64_t nodes = std::max(nodes_, shared_.Nodes.load(std::memory_order_relaxed));
         if (onProgress)
-            onProgress(SearchProgress{depth, score, nodes_, seconds > 0 ? nodes_ / seconds : 0, result.Pv});
+            onProgress(SearchProgress{depth, score, nodes, seconds > 0 ? nodes / seconds : 0, result.Pv});
         // A forced result is final; and a depth begun after half the time would rarely end.
         if (IsWinScore(std::abs(score))) break;
         if (limits_.Millis > 0 && seconds * 1000 > limits_.Millis / 2.0) break;
+        if (limits_.StopWhenClear && limits_.Millis > 0 && Clear(result, before, n, steadyDepths)) break;
     }
     result.Nodes = nodes_;
     result.Millis = Seconds() * 1000;
@@ -356,12 +394,33 @@ SearchResult Searcher::Run(const std::function<void(const SearchProgress&)>& onP
 
 }  // namespace
 
+int MachineThreads() { return std::max(1, static_cast<int>(std::thread::hardware_concurrency())); }
+
 std::uint64_t PositionKey(const Position& g, int side) { return RuleBoard(g, side).Key(); }
 
+// The helpers search until the first thread is done; its move stands unless a
+// helper completed a deeper search, whose move is then the better informed.
 SearchResult SearchBestMove(const Position& g, int side, const SearchLimits& limits,
                             const std::function<void(const SearchProgress&)>& onProgress) {
-    Searcher searcher(g, side, limits);
-    return searcher.Run(onProgress);
+    SharedSearch shared(limits.TableMegabytes);
+    const int helpers = std::max(1, limits.Threads) - 1;
+    std::vector<SearchResult> helped(helpers);
+    std::vector<std::thread> threads;
+    for (int t = 1; t <= helpers; ++t)
+        threads.emplace_back([&, t] { helped[t - 1] = Searcher(g, side, limits, shared, t).Run({}); });
+    SearchResult result = Searcher(g, side, limits, shared, 0).Run(onProgress);
+    shared.Done = true;
+    for (std::thread& thread : threads) thread.join();
+    for (const SearchResult& h : helped) {
+        result.Nodes += h.Nodes;
+        if (h.Depth > result.Depth && !h.Pv.empty()) {
+            result.Best = h.Best;
+            result.Score = h.Score;
+            result.Depth = h.Depth;
+            result.Pv = h.Pv;
+        }
+    }
+    return result;
 }
 
 }  // namespace jv

@@ -53,6 +53,10 @@ struct SearchResult {
     std::vector<Move> Pv;
 };
 
+// The threads the machine runs at once (at least one): the window's and the
+// engine's strong player search on all of them.
+int MachineThreads();
+
 // The search's key of the game's position with side to move.
 std::uint64_t PositionKey(const Position& g, int side);
 

@@ -1,6 +1,7 @@
 #pragma once
+#include <atomic>
 #include <cstdint>
-#include <vector>
+#include <memory>
 
 #include "core/RuleBoard.h"
 
@@ -8,7 +9,10 @@ namespace jv {
 
 // The strong player's memory of searched positions, by Zobrist key: the best
 // move found, the score and whether it is exact or a bound, and the depth it
-// was searched to. One entry per slot; a new result replaces the old.
+// was searched to. One entry per slot; a new result replaces the old. Threads
+// searching together share one table without a lock: a slot holds its entry
+// and the entry's bits mixed into the key, so an entry torn by two threads
+// writing at once no longer matches its key and is not found.
 
 enum class Bound : std::uint8_t { None, Exact, Lower, Upper };
 
@@ -25,12 +29,16 @@ public:
     // A table of about the given size; 0 makes a table that remembers nothing.
     explicit TranspositionTable(std::size_t megabytes);
 
-    // The entry of the key, or nullptr.
-    const TableEntry* Find(std::uint64_t key) const;
+    // The entry of the key into `entry`; false when the table has none.
+    bool Find(std::uint64_t key, TableEntry& entry) const;
     void Store(const TableEntry& entry);
 
 private:
-    std::vector<TableEntry> entries_;
+    struct Slot {
+        std::atomic<std::uint64_t> Check{0};   // the key mixed with the data
+        std::atomic<std::uint64_t> Data{0};
+    };
+    std::unique_ptr<Slot[]> slots_;
     std::uint64_t mask_ = 0;
 };
 

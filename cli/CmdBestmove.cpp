@@ -9,8 +9,11 @@ namespace jv::cli {
 
 namespace {
 
+// More threads than this would only share out the same cores.
+constexpr long long MaxThreads = 64;
+
 const char* const BestmoveUsage =
-    "usage: jarlsvakt-cli bestmove FILE --side attackers|defenders [--ms N | --depth D] [--rules NAME]\n";
+    "usage: jarlsvakt-cli bestmove FILE --side attackers|defenders [--ms N | --depth D] [--threads N] [--rules NAME]\n";
 
 struct BestmoveOptions {
     std::string File;
@@ -32,6 +35,8 @@ bool ParseOptions(const Args& args, BestmoveOptions& o) {
         } else if (a == "--depth" && ReadCount(value, n) && n > 0 && n <= SearchMaxPly / 2) {
             o.Limits.MaxDepth = static_cast<int>(n);
             deep = true;
+        } else if (a == "--threads" && ReadCount(value, n) && n > 0 && n <= MaxThreads) {
+            o.Limits.Threads = static_cast<int>(n);
         } else if (a != "--rules" || !ReadRulesOption(value, o.GameRules)) {
             return false;
         }

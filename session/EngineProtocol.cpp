@@ -162,6 +162,7 @@ void EngineProtocol::Play(int side) {
     sideToMove_ = side;
     SearchLimits limits;
     limits.Millis = MoveMillis(side);
+    limits.Threads = MachineThreads();
     limits.Played = played_;
     const SearchResult r = SearchBestMove(game_, side, limits, [&](const SearchProgress& p) {
         send_("status depth " + std::to_string(p.Depth) + " score " + std::to_string(p.Score) + " nodes " +

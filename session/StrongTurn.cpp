@@ -77,6 +77,7 @@ std::optional<Move> ThinkStrong(Game& g, int side, bool* stopped) {
     std::atomic<bool> stop{false};
     SearchLimits limits;
     limits.Millis = g.Players.ThinkMillis;
+    limits.Threads = MachineThreads();
     limits.Stop = &stop;
     limits.Played = PlayedKeys(g, side);
     ProgressMailbox mailbox;

@@ -62,10 +62,11 @@ const Forced ForcedPositions[] = {
      DefenderCode, 1, {4, 3, 4, 1}, "Tablut"},
 };
 
-SearchResult SearchTo(const Game& g, int side, int depth, std::size_t tableMegabytes = 16) {
+SearchResult SearchTo(const Game& g, int side, int depth, std::size_t tableMegabytes = 16, int threads = 1) {
     SearchLimits limits;
     limits.MaxDepth = depth;
     limits.TableMegabytes = tableMegabytes;
+    limits.Threads = threads;
     return SearchBestMove(g, side, limits);
 }
 
@@ -77,19 +78,21 @@ std::string MoveName(const Move& m) {
 }  // namespace
 
 TEST(Search, FindsTheForcedMoveAtTheDepthItNeeds) {
-    // Each forced move is found at the depth it needs, and a win, under each rule set, scores as one.
-    for (const Forced& f : ForcedPositions) {
-        TestGame t;
-        PlacePieces(t.g, f.cols);
-        t.g.GameRules = *FindRules(f.rules);
-        const SearchResult r = SearchTo(t.g, f.side, f.depth);
-        ASSERT_TRUE(r.HasMove) << f.what;
-        EXPECT_EQ(MoveName(r.Best), MoveName(f.move)) << f.what;
-        EXPECT_TRUE(IsWinScore(r.Score) || (f.side == AttackerCode && f.rules == std::string("Classic")))
-            << f.what << ": score " << r.Score;
-        ASSERT_FALSE(r.Pv.empty()) << f.what;
-        EXPECT_EQ(MoveName(r.Pv.front()), MoveName(f.move)) << f.what;
-    }
+    // Each forced move is found at the depth it needs, by one thread or several sharing the table,
+    // and a win, under each rule set, scores as one.
+    for (const Forced& f : ForcedPositions)
+        for (int threads : {1, 3}) {
+            TestGame t;
+            PlacePieces(t.g, f.cols);
+            t.g.GameRules = *FindRules(f.rules);
+            const SearchResult r = SearchTo(t.g, f.side, f.depth, 16, threads);
+            ASSERT_TRUE(r.HasMove) << f.what;
+            EXPECT_EQ(MoveName(r.Best), MoveName(f.move)) << f.what;
+            EXPECT_TRUE(IsWinScore(r.Score) || (f.side == AttackerCode && f.rules == std::string("Classic")))
+                << f.what << ": score " << r.Score;
+            ASSERT_FALSE(r.Pv.empty()) << f.what;
+            EXPECT_EQ(MoveName(r.Pv.front()), MoveName(f.move)) << f.what;
+        }
 }
 
 TEST(Search, TheTableChangesNotTheForcedMoveAndAFixedDepthRepeats) {
@@ -130,4 +133,17 @@ TEST(Search, StopsAtOnceAndStillNamesALegalMove) {
         EXPECT_EQ(t.g.Board(r.Best.From.Col, r.Best.From.Row), AttackerCode);
         EXPECT_EQ(t.g.Board(r.Best.To.Col, r.Best.To.Row), EmptyCode);
     }
+}
+
+TEST(Search, StopsEarlyWhenTheMoveIsClear) {
+    // Told to stop once the move is clear, a side with one move plays it after the first depth.
+    TestGame t;
+    PlacePieces(t.g, {"Ha.d..H", ".d.....", ".......", "...K...", ".......", ".......", "H.....H"});
+    SearchLimits limits;
+    limits.Millis = 5000;
+    limits.StopWhenClear = true;
+    const SearchResult r = SearchBestMove(t.g, AttackerCode, limits);
+    ASSERT_TRUE(r.HasMove);
+    EXPECT_EQ(MoveName(r.Best), "1,2>1,3");
+    EXPECT_EQ(r.Depth, 1);
 }
