@@ -2,18 +2,18 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <fstream>
 #include <map>
 #include <set>
-#include <sstream>
 #include <string>
 #include <vector>
 
 #include "core/RuleBoard.h"
+#include "records/ArchiveGames.h"
 #include "records/GameRecord.h"
 #include "records/LayoutFile.h"
 #include "records/Notation.h"
 #include "records/Otn.h"
+#include "records/TextFile.h"
 #include "support/Fixtures.h"
 #include "support/LayoutText.h"
 
@@ -22,51 +22,10 @@ using jv::test::TestGame;
 
 namespace {
 
-// A move as the archive writes it ("d5-d6xc6xe6", "d11d9") in the program's written form ("d5-d6xc6/e6").
-std::string WrittenForm(std::string text) {
-    if (text.find('-') == std::string::npos) {
-        const auto second = std::find_if(text.begin() + 1, text.end(), [](char c) { return c >= 'a' && c <= 'z'; });
-        text.insert(second, '-');
-    }
-    for (std::size_t x = text.find('x'); (x = text.find('x', x + 1)) != std::string::npos;) text[x] = '/';
-    return text;
-}
-
-// One recorded game: its id, the side that moved first, the winner, its moves as written and the word that
-// ends it without a move ("resigned", "timeout"; "" when a move ends it).
-struct Record {
-    std::string Id, First, Winner;
-    std::vector<std::string> Moves;
-    std::string Ending;
-};
-
-// A file of recorded games: the opening as an OpenTafl position, then the games.
-struct Archive {
-    std::string Opening;
-    std::vector<Record> Games;
-};
-
-Archive ReadArchive(const std::string& path) {
-    Archive archive;
-    std::ifstream in(path);
-    std::string line;
-    std::getline(in, line);
-    archive.Opening = line.substr(line.find("): ") + 3);
-    while (std::getline(in, line)) {
-        if (line.empty() || line[0] == '#') continue;
-        std::istringstream fields(line);
-        Record game;
-        std::getline(fields, game.Id, '\t');
-        std::getline(fields, game.First, '\t');
-        std::getline(fields, game.Winner, '\t');
-        for (std::string move; fields >> move;) game.Moves.push_back(move);
-        if (!game.Moves.empty() && !IsStandardMoveText(WrittenForm(game.Moves.back()))) {
-            game.Ending = game.Moves.back();
-            game.Moves.pop_back();
-        }
-        archive.Games.push_back(game);
-    }
-    return archive;
+GameArchive ReadArchive(const std::string& path) {
+    std::string text;
+    EXPECT_TRUE(ReadWholeFile(path, text)) << path;
+    return ReadGameArchive(text);
 }
 
 // The side that has won when the game ends on the board after a move of `mover`; "" while it goes on.
@@ -87,7 +46,7 @@ std::string Names(const Game& g, const std::set<int>& cells) {
 // Why the game does not replay on the rule board from the opening g: a move the rules refuse, captures other
 // than those marked, an ending on the board before the record's last move or with another winner, or a last
 // move that ends nothing where the record names a winner and no word. "" when it replays fully.
-std::string ReplayFault(const Game& g, const Record& game) {
+std::string ReplayFault(const Game& g, const ArchiveGame& game) {
     const std::string first = g.GameRules.AttackersFirst ? "attackers" : "defenders";
     if (game.First != first) return "the " + game.First + " move first, not the " + first;
     RuleBoard board(g, g.GameRules.AttackersFirst ? AttackerCode : DefenderCode);
@@ -97,7 +56,7 @@ std::string ReplayFault(const Game& g, const Record& game) {
     for (std::size_t i = 0; i < game.Moves.size(); ++i) {
         const std::string where = "move " + std::to_string(i + 1) + " " + game.Moves[i] + ": ";
         WrittenMove w;
-        if (!ReadStandardMove(g, WrittenForm(game.Moves[i]), w)) return where + "no move";
+        if (!ReadStandardMove(g, WrittenArchiveMove(game.Moves[i]), w)) return where + "no move";
         const int mover = board.SideToMove();
         if (!board.Allows(w.Squares)) {
             Game now = g;
@@ -177,7 +136,7 @@ TEST(RuleSets, RecordedGamesReplayUnderTheirRules) {
     // on the board where and as the record ends, save the games listed with their fault.
     for (const auto& set : Archives) {
         ASSERT_NE(FindRules(set.rules), nullptr) << set.rules;
-        const Archive archive = ReadArchive(jv::test::TestDataPath(std::string("games/") + set.file));
+        const GameArchive archive = ReadArchive(jv::test::TestDataPath(std::string("games/") + set.file));
         ASSERT_EQ(archive.Games.size(), 150u) << set.file;
         TestGame t, fromOtn;
         PlayOn(t, set.rules);
@@ -185,7 +144,7 @@ TEST(RuleSets, RecordedGamesReplayUnderTheirRules) {
         ASSERT_TRUE(OtnToLayoutLine(archive.Opening, opening, reason)) << reason;
         ASSERT_TRUE(ApplyLayoutLine(fromOtn.g, opening).Ok());
         EXPECT_EQ(OtnPosition(t.g), OtnPosition(fromOtn.g)) << set.rules << ": the shipped opening is the games' one";
-        for (const Record& game : archive.Games) {
+        for (const ArchiveGame& game : archive.Games) {
             const std::string fault = ReplayFault(t.g, game);
             const auto known = set.faults.find(game.Id);
             if (known == set.faults.end()) EXPECT_EQ(fault, "") << set.rules << " " << game.Id;
