@@ -1,5 +1,7 @@
 #include "ai/Evaluation.h"
 
+#include "ai/KingRegion.h"
+
 #include <algorithm>
 #include <cstdlib>
 
@@ -7,15 +9,22 @@ namespace jv {
 
 namespace {
 
-constexpr int AttackerValue = 50;
-constexpr int DefenderValue = 100;
-constexpr int DirectRoute = 300;      // a free line from the King to a corner (or to the edge)
-constexpr int TwoMoveRoute = 90;      // a corner (or an edge square) the King reaches in two moves
-constexpr int KingSquare = 8;         // each square the King can move to
-constexpr int RingSide = 35;          // an attacker (or corner) beside the King
-constexpr int RingDiagonal = 12;      // an attacker diagonally beside him
-constexpr int CornerDistance = 12;    // each step between the King and his nearest escape
-constexpr int Closing = 3;            // each step fewer between an attacker and the King
+// The weights, in hundredths of a defender per unit of each term.
+constexpr EvaluationWeights CornerWeights{
+    50,     // an attacker
+    -100,   // a defender
+    -300,   // a free line to an escape square
+    -90,    // an escape square in two moves
+    -8,     // a square the King can move to
+    35,     // an attacker (or corner) beside the King
+    12,     // an attacker diagonally beside him
+    12,     // a step between the King and his nearest escape
+    -3,     // a step between an attacker and the King
+    20,     // an attacker sealing a corner
+    40,     // a corner sealed
+    -2,     // a square the King's side can reach
+    250,    // no escape square within the King's side's reach
+};
 
 
 // The last empty cell of the line from cell in the direction of step (cell
@@ -62,15 +71,17 @@ int KingMobility(const RuleBoard& b, int king) {
     return squares;
 }
 
-int Ring(const RuleBoard& b, int king) {
-    int score = 0;
-    for (int step : CellSteps) {
-        const int piece = b.At(king + step);
-        if (piece == CellAttacker || piece == CellCorner) score += RingSide;
-    }
+int RingSides(const RuleBoard& b, int king) {
+    int count = 0;
+    for (int step : CellSteps) count += b.At(king + step) == CellAttacker || b.At(king + step) == CellCorner;
+    return count;
+}
+
+int RingDiagonals(const RuleBoard& b, int king) {
+    int count = 0;
     for (int diagonal : {CellStride + 1, CellStride - 1, -CellStride + 1, -CellStride - 1})
-        if (b.At(king + diagonal) == CellAttacker) score += RingDiagonal;
-    return score;
+        count += b.At(king + diagonal) == CellAttacker;
+    return count;
 }
 
 // The attackers' steps to the King, summed: the fewer, the tighter they close in.
@@ -89,18 +100,51 @@ int NearestEscape(const RuleBoard& b, int king) {
     return b.RuleSet().KingEscape == Escape::Corners ? dc + dr : std::min(dc, dr);
 }
 
+// The attackers on the squares that seal the corners, the three on the
+// diagonal two steps from a corner behind which the King cannot reach it, and
+// the corners sealed by all three.
+void CornerSeals(const RuleBoard& b, EvaluationTerms& terms) {
+    if (b.RuleSet().KingEscape != Escape::Corners) return;
+    for (int col : {1, b.Width()})
+        for (int row : {1, b.Height()}) {
+            const int inCol = col == 1 ? 1 : -1, inRow = row == 1 ? 1 : -1;
+            int seals = 0;
+            for (int along = 0; along <= 2; ++along)
+                seals += b.At(CellOf(col + inCol * along, row + inRow * (2 - along))) == CellAttacker;
+            terms[TermSealSquares] += seals;
+            terms[TermSealedCorners] += seals == 3;
+        }
+}
+
 }  // namespace
 
-int EvaluateForAttackers(const RuleBoard& b) {
-    int score = AttackerValue * b.Attackers() - DefenderValue * b.Defenders();
+EvaluationTerms TermsOf(const RuleBoard& b) {
+    EvaluationTerms terms{};
+    terms[TermAttackers] = b.Attackers();
+    terms[TermDefenders] = b.Defenders();
     const int king = b.King();
-    if (king < 0) return score;
-    score -= DirectRoute * b.KingRoutes();
-    score -= TwoMoveRoute * TwoMoveRoutes(b, king);
-    score -= KingSquare * KingMobility(b, king);
-    score += Ring(b, king);
-    score += CornerDistance * NearestEscape(b, king);
-    score -= Closing * AttackerSteps(b, king);
+    if (king < 0) return terms;
+    terms[TermDirectRoutes] = b.KingRoutes();
+    terms[TermTwoMoveRoutes] = TwoMoveRoutes(b, king);
+    terms[TermKingMobility] = KingMobility(b, king);
+    terms[TermRingSides] = RingSides(b, king);
+    terms[TermRingDiagonals] = RingDiagonals(b, king);
+    terms[TermEscapeDistance] = NearestEscape(b, king);
+    terms[TermAttackerSteps] = AttackerSteps(b, king);
+    CornerSeals(b, terms);
+    const KingRegion region = FindKingRegion(b);
+    terms[TermRegionSquares] = region.Squares;
+    terms[TermRingClosed] = !region.Escapes;
+    return terms;
+}
+
+const EvaluationWeights& WeightsFor(const Rules&) { return CornerWeights; }
+
+int EvaluateForAttackers(const RuleBoard& b) {
+    const EvaluationTerms terms = TermsOf(b);
+    const EvaluationWeights& weights = WeightsFor(b.RuleSet());
+    int score = 0;
+    for (int t = 0; t < TermCount; ++t) score += weights[t] * terms[t];
     return score;
 }
 

@@ -254,6 +254,10 @@ int Searcher::Negamax(int depth, int alpha, int beta, int ply, bool nullAllowed)
     if (Stopped()) return 0;
 
     const bool pvNode = beta - alpha > 1;
+    // The attackers facing a free line from the King to his escape answer it
+    // a ply deeper, as a chess engine answers a check: such threats decide games.
+    const bool threatened = board_.SideToMove() == AttackerCode && board_.KingRoutes() > 0;
+    if (threatened) ++depth;
     TableEntry entry;
     const bool known = table_.Find(board_.Key(), entry);
     const BoardMove tableMove = known ? entry.Move : BoardMove{};
@@ -264,7 +268,6 @@ int Searcher::Negamax(int depth, int alpha, int beta, int ply, bool nullAllowed)
             return score;
     }
 
-    const bool threatened = board_.SideToMove() == AttackerCode && board_.KingRoutes() > 0;
     // Null move: when passing still holds the position above beta, a move will too.
     if (!pvNode && nullAllowed && !threatened && depth >= 3 && Evaluate() >= beta) {
         board_.MakeNull();

@@ -1,0 +1,86 @@
+#include "ai/KingRegion.h"
+
+#include <bit>
+#include <cstdint>
+
+namespace jv {
+
+namespace {
+
+// A set of cells, one bit a cell, grown by steps of one cell in the four
+// directions. The wall round the board is never open, so a step that wraps
+// from one row's end to the next row's start lands on a wall and is dropped.
+struct Cells {
+    std::uint64_t Word[CellCount / 64] = {};
+
+    void Add(int cell) { Word[cell / 64] |= std::uint64_t{1} << (cell % 64); }
+    int Count() const {
+        int n = 0;
+        for (std::uint64_t w : Word) n += std::popcount(w);
+        return n;
+    }
+    bool Meets(const Cells& other) const {
+        for (int i = 0; i < CellCount / 64; ++i)
+            if (Word[i] & other.Word[i]) return true;
+        return false;
+    }
+    // The given columns (bit c is column c) of a row.
+    void AddRow(int row, std::uint64_t cols) { Word[row * CellStride / 64] |= cols << (row * CellStride % 64); }
+};
+
+// The cells one step from `from` (and `from` itself), kept to the open ones.
+Cells Grown(const Cells& from, const Cells& open) {
+    constexpr int Words = CellCount / 64;
+    Cells to;
+    for (int i = 0; i < Words; ++i) {
+        std::uint64_t w = from.Word[i];
+        w |= from.Word[i] << 1 | (i > 0 ? from.Word[i - 1] >> 63 : 0);
+        w |= from.Word[i] >> 1 | (i + 1 < Words ? from.Word[i + 1] << 63 : 0);
+        w |= from.Word[i] << CellStride | (i > 0 ? from.Word[i - 1] >> (64 - CellStride) : 0);
+        w |= from.Word[i] >> CellStride | (i + 1 < Words ? from.Word[i + 1] << (64 - CellStride) : 0);
+        to.Word[i] = w & open.Word[i];
+    }
+    return to;
+}
+
+bool Same(const Cells& a, const Cells& b) {
+    for (int i = 0; i < CellCount / 64; ++i)
+        if (a.Word[i] != b.Word[i]) return false;
+    return true;
+}
+
+// Every square the King's side may pass: all but the attackers'.
+Cells OpenCells(const RuleBoard& b) {
+    Cells open;
+    const std::uint64_t row = ((std::uint64_t{1} << b.Width()) - 1) << 1;
+    for (int r = 1; r <= b.Height(); ++r) open.AddRow(r, row);
+    const std::uint8_t* attackers = b.AttackerCells();
+    for (int i = 0; i < b.Attackers(); ++i) open.Word[attackers[i] / 64] &= ~(std::uint64_t{1} << (attackers[i] % 64));
+    return open;
+}
+
+// The squares where the King escapes: the corners, or every edge square.
+Cells EscapeCells(const RuleBoard& b) {
+    Cells escape;
+    const std::uint64_t ends = std::uint64_t{1} << 1 | std::uint64_t{1} << b.Width();
+    const std::uint64_t whole = ((std::uint64_t{1} << b.Width()) - 1) << 1;
+    const bool edges = b.RuleSet().KingEscape == Escape::Edges;
+    for (int r = 1; r <= b.Height(); ++r) {
+        const bool endRow = r == 1 || r == b.Height();
+        escape.AddRow(r, endRow ? (edges ? whole : ends) : edges ? ends : 0);
+    }
+    return escape;
+}
+
+}  // namespace
+
+KingRegion FindKingRegion(const RuleBoard& b) {
+    if (b.King() < 0) return {};
+    const Cells open = OpenCells(b);
+    Cells region;
+    region.Add(b.King());
+    for (Cells next = Grown(region, open); !Same(next, region); next = Grown(region, open)) region = next;
+    return KingRegion{region.Count(), region.Meets(EscapeCells(b))};
+}
+
+}  // namespace jv
