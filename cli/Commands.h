@@ -30,6 +30,7 @@ int RunBestmove(const Args& args);
 int RunMatch(const Args& args);
 int RunRules(const Args& args);
 int RunEngine(const Args& args);
+int RunTune(const Args& args);
 
 // A game set up for one command: its own view, the program's folder and the
 // column letters.
