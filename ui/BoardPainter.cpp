@@ -127,7 +127,9 @@ void PrintLabels(Surface& s, const BoardCanvas& c) {
     }
     for (int n = 1; n <= g.BoardWidth; ++n) {
         const QString label = DownLabel(g, n);
-        const double x = geo.Left(1, 1) - (label.size() > 1 ? 1.5 * d : d);
+        // The letters from J on are shifted as the two-digit numbers are.
+        const bool wide = g.TaflCoordinates ? label.size() > 1 : n > 9;
+        const double x = geo.Left(1, 1) - (wide ? 1.5 * d : d);
         s.Print(Whole(x), Whole(geo.Top(n, 1) + size / 3), label, LabelColour(g));
     }
 }
