@@ -15,8 +15,6 @@ namespace {
 
 const char* const ReplayUsage = "replay LOGFILE|RECORD.otg";
 
-bool IsGameRecord(const std::string& name) { return name.size() > 4 && Lower(name.substr(name.size() - 4)) == ".otg"; }
-
 void PrintStep(const Game& g, long long k, long long n) {
     std::cout << "Step" << Str(k) << " of" << Str(n) << '\n';
     PrintGrid(g, std::cout);

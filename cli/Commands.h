@@ -31,6 +31,7 @@ int RunMatch(const Args& args);
 int RunRules(const Args& args);
 int RunEngine(const Args& args);
 int RunTune(const Args& args);
+int RunReview(const Args& args);
 
 // A game set up for one command: its own view, the program's folder and the
 // column letters.
@@ -82,6 +83,9 @@ int RunOnLayoutArgument(const Args& args, const char* usage, const std::function
 // reads the log's lines and hands them to print, which returns the exit code.
 int RunOnMovesLogArgument(const Args& args, const char* usage,
                           const std::function<int(Game&, const std::vector<std::string>&)>& print);
+
+// True when a file's name ends in ".otg", in any case: an OpenTafl game record.
+bool IsGameRecord(const std::string& name);
 
 // A file named on the command line: as given when it exists from the current
 // folder, else taken from the program's folder like every name without a folder.

@@ -3,6 +3,7 @@
 #include <iostream>
 
 #include "cli/Commands.h"
+#include "core/VbText.h"
 #include "core/Board.h"
 #include "records/LayoutFile.h"
 #include "records/ProgramFolder.h"
@@ -91,6 +92,8 @@ void PrepareGame(Game& g, GameView& view) {
     g.ProgramFolder = FindProgramFolder();
     BuildColumnLetters(g);
 }
+
+bool IsGameRecord(const std::string& name) { return name.size() > 4 && Lower(name.substr(name.size() - 4)) == ".otg"; }
 
 std::string ResolveArgument(const Game& g, const std::string& name) {
     std::error_code ec;

@@ -29,6 +29,7 @@ const std::map<std::string, Command>& Commands() {
         {"bestmove", {RunBestmove, "bestmove FILE --side attackers|defenders [--ms N | --depth D] [--rules NAME]  the strong player's move"}},
         {"match", {RunMatch, "match --attackers classic|strong[:MS] --defenders classic|strong[:MS] --games N [--openings K] [--seed S] [--rules NAME] LAYOUT...  the players against each other"}},
         {"record", {RunRecord, "record LOGFILE [--rules NAME]  print a moves log as a game record in standard move notation"}},
+        {"review", {RunReview, "review LOGFILE|RECORD.otg [--ms N | --depth D] [--rules NAME]  the strong player's verdict on every move"}},
         {"rules", {RunRules, "rules               list the rule sets: name, board, opening layout, OpenTafl rules keys"}},
         {"tune", {RunTune, "tune GAMES.tsv [--rules NAME] [--from PLY]  fit the strong player's weights to recorded games"}},
         {"engine", {RunEngine, "engine              the strong player as an OpenTafl engine on standard input and output"}},

@@ -112,6 +112,10 @@ struct Settings {
     std::array<std::int32_t, 14> ColourTable{};   // 0..12 from the scheme, 13 from the cfg
     std::array<std::string, 17> ColumnLetters;    // index 1..16: "A".."P"
     PlayerChoice Players;                         // kept in the players' file
+    // Squares named in standard tafl coordinates (files a.. across, ranks 1..
+    // up) on the board's edges and in the panes beyond the classic lists;
+    // kept in the view's settings file.
+    bool TaflCoordinates = false;
 };
 
 // How a game has ended: the King home (on a corner, or on the edge under a
@@ -161,6 +165,16 @@ struct SessionState {
     // sets another.
     std::function<ClockReading()> Clock;
     GameView* View = nullptr;
+    // The move list's game while the board shows one of its earlier
+    // positions: its positions as layout lines, oldest first (empty while
+    // the board shows the game as played), with the undo history's length
+    // and the game's number then; a move, an undo or a new game changes
+    // those, and the board shows the game as played again.
+    struct BrowsedGame {
+        std::vector<std::string> Lines;
+        std::size_t UndoLength = 0;
+        int GameNumber = 0;
+    } Browsed;
     // The outside engines playing in this game, each in its own process
     // (session/EngineTurn.h); ended with the game's session.
     std::shared_ptr<struct EngineSeats> Engines;

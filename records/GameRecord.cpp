@@ -249,15 +249,9 @@ MadeMove MakeOnBoard(Position& g, const Move& m, int side) {
     return made;
 }
 
-// A move as the record writes it, and the side that made it.
-struct MoveText {
-    std::string Text;
-    bool Defenders = false;
-};
-
 // The standard text of the move from before to after; false with the reason
 // when after is not what one move makes of before.
-bool ReadMove(Game& g, const LoggedPosition& before, const LoggedPosition& after, MoveText& text,
+bool ReadMove(Game& g, const LoggedPosition& before, const LoggedPosition& after, PlayedMove& played,
               std::string& reason) {
     FoundMove m;
     if (!FindMove(g, before, after, m, reason)) return false;
@@ -275,8 +269,13 @@ bool ReadMove(Game& g, const LoggedPosition& before, const LoggedPosition& after
         }
         return false;
     }
-    text.Text = move + (made.Taken.empty() ? "" : "x" + Names(g, made.Taken, "")) + made.Mark;
-    text.Defenders = IsDefender(m.Kind);
+    played.Written.Squares = Move{m.From, m.To};
+    played.Written.King = m.Kind == 'K';
+    played.Written.Captures = made.Taken;
+    played.Written.CapturesWritten = !made.Taken.empty();
+    played.Written.Mark = made.Mark;
+    played.Defenders = IsDefender(m.Kind);
+    played.After = after.Line;
     return true;
 }
 
@@ -311,18 +310,18 @@ void ForEachMove(Game& g, const LoggedPosition& before, Visit visit) {
 // at Home: two moves apart, the second the King's escape. Both are read
 // when exactly one move fits before the escape; false otherwise.
 bool ReadMoveAndEscape(Game& g, const LoggedPosition& before, const LoggedPosition& after,
-                       std::vector<MoveText>& moves, std::string& reason) {
+                       std::vector<PlayedMove>& moves, std::string& reason) {
     const int kc = after.KingCol, kr = after.KingRow;
     const bool kingHome = kc >= 1 && kc <= g.BoardWidth && kr >= 1 && kr <= g.BoardHeight && IsCorner(g, kc, kr) &&
                           after.Kind(kc, kr) == 'K';
     if (!kingHome) return false;
-    std::vector<std::vector<MoveText>> found;
+    std::vector<std::vector<PlayedMove>> found;
     ForEachMove(g, before, [&](const LoggedPosition& middle) {
         std::string ignored;
-        std::vector<MoveText> pair(2);
+        std::vector<PlayedMove> pair(2);
         if (!ReadMove(g, before, middle, pair[0], ignored) || !ReadMove(g, middle, after, pair[1], ignored))
             return;
-        if (pair[1].Text.size() > 2 && pair[1].Text.compare(pair[1].Text.size() - 2, 2, "--") == 0)
+        if (pair[1].Written.Mark == "--")
             found.push_back(pair);
     });
     if (found.empty()) return false;
@@ -361,6 +360,19 @@ private:
     std::vector<std::string> lines_;
     int count_ = 0;
     bool defendersFirst_ = true, lastDefenders_ = true;
+};
+
+// An empty board of the record's size under its rules, its positions read
+// onto it.
+struct RecordBoard {
+    RecordBoard(const Rules& rules, int width, int height) {
+        g.View = &view;
+        g.GameRules = rules;
+        BuildColumnLetters(g);
+        NewBoard(g, width, height);
+    }
+    SilentView view;
+    Game g;
 };
 
 GameRecordResult Refuse(int line, const std::string& reason) {
@@ -511,6 +523,47 @@ std::string RefuseWrittenMove(const Game& g, const WrittenMove& w, char side) {
     return "";
 }
 
+GameMovesResult ReadGameMoves(const std::vector<std::string>& layoutLines, const Rules& rules) {
+    GameMovesResult result;
+    const auto refuse = [&](int line, const std::string& reason) {
+        result.BadLine = line;
+        result.Reason = reason;
+        return result;
+    };
+    int width = 0, height = 0;
+    if (layoutLines.empty()) return refuse(1, "no positions");
+    if (!ReadSize(layoutLines.front(), width, height)) return refuse(1, "not a layout line");
+    RecordBoard board(rules, width, height);
+    Game& g = board.g;
+
+    std::string reason;
+    LoggedPosition before, after;
+    if (!ReadPosition(g, layoutLines.front(), before, reason)) return refuse(1, reason);
+    for (std::size_t i = 1; i < layoutLines.size(); ++i) {
+        const int lineNumber = static_cast<int>(i) + 1;
+        if (!ReadPosition(g, layoutLines[i], after, reason)) return refuse(lineNumber, reason);
+        if (after.Line == before.Line) continue;
+        std::vector<PlayedMove> moves(1);
+        if (!ReadMove(g, before, after, moves.front(), reason) && !ReadMoveAndEscape(g, before, after, moves, reason))
+            return refuse(lineNumber, reason);
+        for (PlayedMove& move : moves) {
+            move.Line = lineNumber;
+            result.Moves.push_back(move);
+        }
+        before = after;
+    }
+    result.Ok = true;
+    return result;
+}
+
+std::string WrittenMoveText(int boardWidth, const WrittenMove& move) {
+    std::string text = (move.King ? "K" : "") + StandardSquareName(boardWidth, move.Squares.From.Col, move.Squares.From.Row) +
+                       "-" + StandardSquareName(boardWidth, move.Squares.To.Col, move.Squares.To.Row);
+    for (std::size_t i = 0; i < move.Captures.size(); ++i)
+        text += (i == 0 ? "x" : "/") + StandardSquareName(boardWidth, move.Captures[i].Col, move.Captures[i].Row);
+    return text + move.Mark;
+}
+
 GameRecordResult MakeGameRecord(const std::vector<std::string>& layoutLines, const Rules& rules) {
     int width = 0, height = 0;
     if (layoutLines.empty()) return Refuse(1, "no positions");
@@ -518,34 +571,23 @@ GameRecordResult MakeGameRecord(const std::vector<std::string>& layoutLines, con
     if (width != height)
         return Refuse(1, "the board is " + std::to_string(width) + "x" + std::to_string(height) +
                              ", where a record holds a square board");
-    SilentView view;
-    Game g;
-    g.View = &view;
-    g.GameRules = rules;
-    BuildColumnLetters(g);
-    NewBoard(g, width, height);
+    RecordBoard board(rules, width, height);
+    Game& g = board.g;
 
     std::string reason;
-    LoggedPosition first, before, after;
+    LoggedPosition first;
     if (!ReadPosition(g, layoutLines.front(), first, reason)) return Refuse(1, reason);
     SetBoard(g, first);
     // The start is written as OTN, which the readers must take back.
     if (const std::string refusal = OtnRefusal(g); !refusal.empty()) return Refuse(1, refusal);
-    before = first;
+    // The sides' turns are checked move by move before the position no move
+    // leads to, as the record is read.
+    const GameMovesResult moves = ReadGameMoves(layoutLines, rules);
     MoveNumbers numbers;
-    for (std::size_t i = 1; i < layoutLines.size(); ++i) {
-        const int lineNumber = static_cast<int>(i) + 1;
-        if (!ReadPosition(g, layoutLines[i], after, reason)) return Refuse(lineNumber, reason);
-        if (after.Line == before.Line) continue;
-        std::vector<MoveText> moves(1);
-        if (!ReadMove(g, before, after, moves.front(), reason) && !ReadMoveAndEscape(g, before, after, moves, reason))
-            return Refuse(lineNumber, reason);
-        for (const MoveText& move : moves)
-            if (!numbers.Add(move.Text, move.Defenders, reason)) return Refuse(lineNumber, reason);
-        before = after;
-    }
+    for (const PlayedMove& move : moves.Moves)
+        if (!numbers.Add(WrittenMoveText(width, move.Written), move.Defenders, reason)) return Refuse(move.Line, reason);
+    if (!moves.Ok) return Refuse(moves.BadLine, moves.Reason);
 
-    SetBoard(g, first);
     GameRecordResult result;
     result.Ok = true;
     result.Lines = {"[rules:dim:" + std::to_string(width) + " " + RulesRecordKeys(rules, numbers.AttackersFirst(rules)) +

@@ -39,6 +39,29 @@ struct GameRecordResult {
 // OTN can hold (OtnRefusal).
 GameRecordResult MakeGameRecord(const std::vector<std::string>& layoutLines, const Rules& rules);
 
+// The moves read off the positions as the record writes them: each move as
+// written (its squares, the King's letter, what it takes, its mark), the side
+// that made it, the position it leaves (a layout line) and the number of the
+// position it was read from (1 for the first).
+struct PlayedMove {
+    WrittenMove Written;
+    bool Defenders = false;
+    std::string After;
+    int Line = 0;
+};
+struct GameMovesResult {
+    bool Ok = false;
+    std::vector<PlayedMove> Moves;   // the moves read before the first refused position
+    int BadLine = 0;
+    std::string Reason;
+};
+// The same positions as MakeGameRecord takes, on a board of any shape; the
+// sides need not take turns.
+GameMovesResult ReadGameMoves(const std::vector<std::string>& layoutLines, const Rules& rules);
+
+// "Kd4-d3", "e5-e8xe9/d8+": a move as the record writes it.
+std::string WrittenMoveText(int boardWidth, const WrittenMove& move);
+
 // Reading: the record's tags and comments stand in brackets; the rules
 // record (a [rules:...] tag or a line of its own) gives the start ("start:",
 // or "starti:" listing the top rank first; a [position:...] tag replaces it),

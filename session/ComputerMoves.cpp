@@ -15,6 +15,7 @@
 #include "core/VbText.h"
 #include "session/EngineTurn.h"
 #include "session/PlayerMoves.h"
+#include "session/SquareNames.h"
 #include "session/StrongTurn.h"
 #include "session/Undo.h"
 
@@ -97,7 +98,7 @@ void ShowNoMove(Game& g, int side) {
 }
 
 std::string MoveName(const Game& g, const Move& m) {
-    return SquareName(g, m.From.Col, m.From.Row) + " > " + SquareName(g, m.To.Col, m.To.Row);
+    return ShownSquare(g, m.From.Col, m.From.Row) + " > " + ShownSquare(g, m.To.Col, m.To.Row);
 }
 
 // The first line of a candidate list whose move the position as it stands allows.

@@ -9,6 +9,7 @@
 #include "records/PositionRecord.h"
 #include "records/TextFile.h"
 #include "session/FileChoice.h"
+#include "session/MoveList.h"
 
 namespace jv {
 
@@ -35,29 +36,30 @@ std::vector<std::string> HistoryLines(const Game& g) {
     return lines;
 }
 
-void ExportGameRecordCommand(Game& g) {
-    if (g.EditorOn) return;
+std::string ExportGameRecordCommand(Game& g) {
+    if (g.EditorOn) return "";
     if (g.Undo.empty()) {
         g.View->Show("No move has been made in this game yet", "vbinformation+vbok");
-        return;
+        return "";
     }
-    const GameRecordResult record = MakeGameRecord(HistoryLines(g), g.GameRules);
+    const GameRecordResult record = MakeGameRecord(GameLines(g), g.GameRules);
     if (!record.Ok) {
         g.View->Show("The moves cannot be written as a game record:\r\n" + BadMove(record), "vbcritical+vbok");
-        return;
+        return "";
     }
     std::string name = ChooseGameFile(g, FileMode::Save, "Select an output file for the game record", "*.otg",
                                       "OpenTafl games");
-    if (name.empty()) return;
+    if (name.empty()) return "";
     name = WithExtension(name, "otg");
     const std::string path = InProgramFolder(g, name);
-    if (FileThere(path) && g.View->Show(name + "\r\nOverWrite file?", "vbYesNo+vbquestion") != ButtonYes) return;
+    if (FileThere(path) && g.View->Show(name + "\r\nOverWrite file?", "vbYesNo+vbquestion") != ButtonYes) return "";
     const WriteResult written = WriteFileAtomically(path, JoinLines(record.Lines));
     if (!written.Ok()) {
         g.View->Show("Game Record File:\r\n" + name + "\r\n" + written.Problem("could not be written"), "vbcritical+vbok");
-        return;
+        return "";
     }
     g.View->Show("Game record saved to file:\r\n" + name, "vbinformation+vbok");
+    return name;
 }
 
 }  // namespace jv

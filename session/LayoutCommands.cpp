@@ -1,5 +1,6 @@
 #include "session/LayoutCommands.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <system_error>
 
@@ -12,6 +13,7 @@
 #include "records/LayoutFile.h"
 #include "records/Otn.h"
 #include "records/OtnFile.h"
+#include "records/PositionRecord.h"
 #include "records/TextFile.h"
 #include "session/FileChoice.h"
 #include "session/Recording.h"
@@ -134,6 +136,18 @@ bool ReadOtnLine(const Game& g, const std::string& line, std::string& layout, Ru
     return true;
 }
 
+// The record's positions up to the one the board shows become the undo
+// history, as if played, so the game goes on, is taken back and exported
+// from there; the move list keeps the record's later moves to step to.
+void TakeRecordAsPlayed(Game& g, const std::vector<std::string>& positions) {
+    const auto shown = std::find(positions.begin(), positions.end(), LayoutLine(g));
+    if (shown == positions.end()) return;
+    g.Undo.clear();
+    for (auto p = positions.begin(); p != shown; ++p) g.Undo.insert(g.Undo.begin(), p->substr(4));
+    g.View->RefreshList(ListId::Undo);
+    g.Browsed = {positions, g.Undo.size(), g.GameNumber};
+}
+
 }  // namespace
 
 bool LoadLayout(Game& g, const std::string& path) {
@@ -186,6 +200,7 @@ bool LoadOtnGame(Game& g, const std::string& name) {
     g.GameRules = game.GameRules;
     PrintLog(g, "OpenTafl game: " + name, 0, 0);
     StepThroughLog(g, game.Positions);
+    TakeRecordAsPlayed(g, game.Positions);
     if (!game.Ok)
         g.View->Show("OpenTafl Game File:\r\n" + name + "\r\nstops at a move JarlsVakt refuses: " + game.Reason,
                      "vbcritical+vbok");

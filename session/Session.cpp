@@ -12,6 +12,7 @@
 #include "session/GameEnding.h"
 #include "session/LayoutCommands.h"
 #include "session/NewGame.h"
+#include "session/SquareNames.h"
 #include "session/StrongTurn.h"
 
 namespace jv {
@@ -43,6 +44,7 @@ bool StartUp(Game& g, const std::function<void()>& applySettings) {
     g.SchemeFile = "xp.col";
     ReadConfiguration(g, ConfigurationFile);
     ReadPlayers(g);
+    ReadViewSettings(g);
     ReadRules(g);
     LoadColourScheme(g, g.SchemeFile);
     if (applySettings) applySettings();

@@ -13,10 +13,10 @@
 #include "core/GameView.h"
 #include "core/Move.h"
 #include "core/SilentView.h"
-#include "records/Notation.h"
 #include "records/PlayerSettings.h"
 #include "records/PositionRecord.h"
 #include "records/TextFile.h"
+#include "session/SquareNames.h"
 
 namespace jv {
 
@@ -25,22 +25,27 @@ namespace {
 // How often the waiting game lets the window's events run.
 constexpr auto EventInterval = std::chrono::milliseconds(25);
 
-std::string ProgressLine(int boardWidth, const SearchProgress& p) {
+std::string ProgressLine(const Game& g, const SearchProgress& p) {
     char head[96];
     std::snprintf(head, sizeof head, "%2d %+8.2f %6.2fM/s ", p.Depth, p.Score / 100.0, p.NodesPerSecond / 1e6);
     std::string line = head;
-    for (const Move& m : p.Pv)
-        line += " " + StandardSquareName(boardWidth, m.From.Col, m.From.Row) + "-" +
-                StandardSquareName(boardWidth, m.To.Col, m.To.Row);
+    for (const Move& m : p.Pv) line += " " + ShownMove(g, m);
     return line;
 }
 
-// The search's reports, handed from the worker thread to the game's own.
+// The search's reports, handed from the worker thread to the game's own,
+// which writes them out (the names of the squares are the game's).
 struct ProgressMailbox {
     std::mutex Lock;
-    std::vector<std::string> Lines;
+    std::vector<SearchProgress> Reports;
     bool Fresh = false;
 };
+
+std::vector<std::string> ProgressLines(const Game& g, const std::vector<SearchProgress>& reports) {
+    std::vector<std::string> lines;
+    for (const SearchProgress& p : reports) lines.push_back(ProgressLine(g, p));
+    return lines;
+}
 
 // The keys of the positions the game has been in, newest first as the undo
 // history keeps them, so that a line coming back to one scores as a draw.
@@ -85,7 +90,7 @@ std::optional<Move> ThinkStrong(Game& g, int side, bool* stopped) {
     auto search = std::async(std::launch::async, [&] {
         return SearchBestMove(copy, side, limits, [&](const SearchProgress& p) {
             const std::lock_guard<std::mutex> hold(mailbox.Lock);
-            mailbox.Lines.insert(mailbox.Lines.begin(), ProgressLine(copy.BoardWidth, p));
+            mailbox.Reports.insert(mailbox.Reports.begin(), p);
             mailbox.Fresh = true;
         });
     });
@@ -98,12 +103,12 @@ std::optional<Move> ThinkStrong(Game& g, int side, bool* stopped) {
         if (gameChanged()) stop = true;
         const std::lock_guard<std::mutex> hold(mailbox.Lock);
         if (!mailbox.Fresh) continue;
-        g.SearchLines = mailbox.Lines;
+        g.SearchLines = ProgressLines(g, mailbox.Reports);
         mailbox.Fresh = false;
         g.View->RefreshList(ListId::SearchLines);
     } while (search.wait_for(EventInterval) != std::future_status::ready);
     const SearchResult result = search.get();
-    g.SearchLines = mailbox.Lines;
+    g.SearchLines = ProgressLines(g, mailbox.Reports);
     g.View->RefreshList(ListId::SearchLines);
     g.View->SetBusy(false);
     if (stopped) *stopped = gameChanged();
@@ -115,8 +120,7 @@ void HintCommand(Game& g) {
     if (g.EditorOn || g.GameOver) return;
     const std::optional<Move> hint = ThinkStrong(g, g.Players.UserSide);
     if (!hint) return;
-    PrintLog(g, "Hint: " + SquareName(g, hint->From.Col, hint->From.Row) + " > " +
-                    SquareName(g, hint->To.Col, hint->To.Row), 1, 0);
+    PrintLog(g, "Hint: " + ShownMove(g, *hint), 1, 0);
     g.View->ShowDragLine(*hint);
 }
 
@@ -124,8 +128,8 @@ void PreviewSearchLine(Game& g, int index) {
     if (index < 0 || index >= static_cast<int>(g.SearchLines.size())) return;
     std::istringstream words(g.SearchLines[static_cast<std::size_t>(index)]);
     std::string depth, score, speed, first;
-    WrittenMove move;
-    if (words >> depth >> score >> speed >> first && ReadStandardMove(g, first, move)) ShowDragLine(g, move.Squares);
+    Move move;
+    if (words >> depth >> score >> speed >> first && ReadShownMove(g, first, move)) ShowDragLine(g, move);
 }
 
 void ReadPlayers(Game& g) {

@@ -9,7 +9,8 @@ namespace jv {
 // copy of the position for the thinking time, while the window's events run;
 // it stops at once when the game changes under it (a load, a reset, an undo,
 // the program's end) or the user stops it. Its progress fills SearchLines:
-// depth, score, nodes a second and the line it expects, in tafl notation.
+// depth, score, nodes a second and the line it expects, its squares named
+// as the view names them (SquareNames.h).
 
 // The strong player's move for side, or none when the side cannot move or
 // the search was stopped (then stopped is set).

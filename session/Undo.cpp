@@ -4,6 +4,7 @@
 #include "core/VbText.h"
 #include "records/PositionRecord.h"
 #include "records/TextFile.h"
+#include "session/MoveList.h"
 
 namespace jv {
 
@@ -41,7 +42,7 @@ void Undo_MouseUp(Game& g, int index) {
     if (index < 0 || index >= static_cast<int>(g.Undo.size())) return;
     // A copy: applying the record redraws, and the view may read the list.
     const std::string record = g.Undo[static_cast<std::size_t>(index)];
-    ApplyPositionRecord(g, record);
+    ShowEarlierPosition(g, record);
 }
 
 }  // namespace jv

@@ -98,6 +98,18 @@ void FrameTheEdge(Surface& s, const BoardCanvas& c) {
     s.SetLineWidth(c.geometry.GridLineWidth);
 }
 
+// The label above column n: its number, or in tafl coordinates its file letter.
+QString AcrossLabel(const Game& g, int n) {
+    return g.TaflCoordinates ? QString(QChar('a' + n - 1)) : QString::number(n);
+}
+
+// The label beside row n: its letter, or in tafl coordinates its rank,
+// counted from the bottom.
+QString DownLabel(const Game& g, int n) {
+    if (g.TaflCoordinates) return QString::number(g.BoardWidth - n + 1);
+    return QString::fromStdString(g.ColumnLetters[std::clamp(n, 1, 16)]);
+}
+
 void PrintLabels(Surface& s, const BoardCanvas& c) {
     const Game& g = c.g;
     const BoardGeometry& geo = c.geometry;
@@ -109,13 +121,16 @@ void PrintLabels(Surface& s, const BoardCanvas& c) {
     const int d = Whole(h * 0.9);
     const double size = geo.SquareSize;
     for (int n = 1; n <= g.BoardHeight; ++n) {
-        const double x = geo.Left(1, n) + (n > 9 ? size / 6 : size / 2.5);
-        s.Print(Whole(x), Whole(geo.Top(1, 1) - 1.1 * d), QString::number(n), LabelColour(g));
+        const QString label = AcrossLabel(g, n);
+        const double x = geo.Left(1, n) + (label.size() > 1 ? size / 6 : size / 2.5);
+        s.Print(Whole(x), Whole(geo.Top(1, 1) - 1.1 * d), label, LabelColour(g));
     }
     for (int n = 1; n <= g.BoardWidth; ++n) {
-        const double x = geo.Left(1, 1) - (n > 9 ? 1.5 * d : d);
-        s.Print(Whole(x), Whole(geo.Top(n, 1) + size / 3),
-                QString::fromStdString(g.ColumnLetters[std::clamp(n, 1, 16)]), LabelColour(g));
+        const QString label = DownLabel(g, n);
+        // The letters from J on are shifted as the two-digit numbers are.
+        const bool wide = g.TaflCoordinates ? label.size() > 1 : n > 9;
+        const double x = geo.Left(1, 1) - (wide ? 1.5 * d : d);
+        s.Print(Whole(x), Whole(geo.Top(n, 1) + size / 3), label, LabelColour(g));
     }
 }
 

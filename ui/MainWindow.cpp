@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
+#include <QSignalBlocker>
 #include <QCloseEvent>
 #include <QTimer>
 
@@ -10,6 +11,7 @@
 #include "session/Session.h"
 #include "ui/BoardPicture.h"
 #include "ui/ColourValue.h"
+#include "ui/MoveListPanel.h"
 #include "ui/WindowColours.h"
 #include "ui/widgets/LineList.h"
 
@@ -48,6 +50,9 @@ bool MainWindow::Start() {
 void MainWindow::SyncChecks() {
     check1_->setChecked(game_.Check1);
     check2_->setChecked(game_.Check2);
+    QAction* coordinates = findChild<QAction*>("mnutaflcoords");
+    const QSignalBlocker quiet(coordinates);
+    coordinates->setChecked(game_.TaflCoordinates);
 }
 
 void MainWindow::ApplyWindowColours() {
@@ -67,6 +72,7 @@ void MainWindow::EndNow() {
     ended_ = true;
     game_.Ending = true;
     timer1_->stop();
+    moves_->StopReview();
     EndBusy();
     emit Ending();
     close();

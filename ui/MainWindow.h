@@ -24,6 +24,7 @@ namespace jv::ui {
 class BoardPicture;
 class EditorPalette;
 class LineList;
+class MoveListPanel;
 
 // The text of the "CheckKingCapture" debug button's message: the capture
 // rule's answer and the King's neighbours, for looking at, changing nothing.
@@ -116,6 +117,12 @@ private:
     // stop it while it plays; pressed again, it stops it.
     void ToggleAutoGame();
     void ShowHelp();
+    // View > Tafl coordinates: the board's edges and the panes named anew,
+    // and the choice kept in the view's settings file.
+    void ChooseCoordinates(bool tafl);
+    // Game > Export game record..., then, after a review of the game, its
+    // graph as a picture beside the record when the user wants it.
+    void ExportGameRecord();
     void ShowAbout();
     // The options dialog (Form2), and what its Apply changes in the window:
     // the scheme loaded again, the colours and pictures applied, the board
@@ -134,6 +141,7 @@ private:
     Game game_;
     BoardPicture* picture_ = nullptr;
     EditorPalette* picture2_ = nullptr;
+    MoveListPanel* moves_ = nullptr;
     LineList* eventLog_ = nullptr;
     std::map<ListId, QListWidget*> lists_;
     QLabel* layoutName_ = nullptr;

@@ -12,6 +12,7 @@
 #include <QPushButton>
 #include <QSplitter>
 #include <QStandardItemModel>
+#include <QTimer>
 
 #include "ai/AttackerRank.h"
 #include "ai/AttackerTactics.h"
@@ -20,6 +21,7 @@
 #include "core/Board.h"
 #include "core/Move.h"
 #include "core/VbText.h"
+#include "records/TextFile.h"
 #include "session/ComputerMoves.h"
 #include "session/GameRecordExport.h"
 #include "session/LayoutCommands.h"
@@ -32,6 +34,7 @@
 #include "ui/BoardPicture.h"
 #include "ui/EditorPalette.h"
 #include "ui/MainWindow.h"
+#include "ui/MoveListPanel.h"
 #include "ui/NewGameDialog.h"
 #include "ui/widgets/HelpViewer.h"
 
@@ -55,7 +58,10 @@ void MainWindow::ConnectCommands() {
     onMenu("mnunewgame", [this] { ChooseNewGame(); });
     onMenu("mnuloadgame", [this] { LoadCommand(game_); });
     onMenu("mnusavegame", [this] { SaveCommand(game_); });
-    onMenu("mnuexportrecord", [this] { ExportGameRecordCommand(game_); });
+    onMenu("mnuexportrecord", [this] { ExportGameRecord(); });
+    onMenu("mnureviewgame", [this] { moves_->StartReview(); });
+    connect(findChild<QAction*>("mnutaflcoords"), &QAction::toggled, this, &MainWindow::ChooseCoordinates);
+    moves_->Settled = [this] { return !timer1_->isActive(); };
     onMenu("mnuresetgame", [this] { ResetGameCommand(game_); });
     onMenu("mnuexit", [this] { ExitCommand(game_); });
     onMenu("mnuoptions", [this] { ShowOptions(); });
@@ -92,6 +98,15 @@ void MainWindow::ConnectCommands() {
     connect(findChild<QLineEdit*>("EngineCommand"), &QLineEdit::editingFinished, this, choosePlayers);
     connect(picture_, &BoardPicture::EditorSquarePressed, this, &MainWindow::PlaceInEditor);
     ConnectDebugButtons();
+}
+
+void MainWindow::ExportGameRecord() {
+    const std::string name = ExportGameRecordCommand(game_);
+    if (name.empty() || !moves_->HasReview()) return;
+    const std::string picture = name.substr(0, name.find_last_of('.')) + ".png";
+    if (Show(picture + "\r\nSave the review's graph beside the game record?", "vbYesNo+vbquestion") != ButtonYes) return;
+    if (!moves_->SaveGraph(QString::fromStdString(InProgramFolder(game_, picture))))
+        Show("Picture File:\r\n" + picture + "\r\ncould not be written", "vbcritical+vbok");
 }
 
 void MainWindow::ConnectDebugButtons() {

@@ -27,6 +27,7 @@
 #include "ui/BoardPicture.h"
 #include "ui/EditorPalette.h"
 #include "ui/MainWindow.h"
+#include "ui/MoveListPanel.h"
 #include "ui/widgets/ElidedLabel.h"
 #include "ui/widgets/LineList.h"
 
@@ -115,6 +116,7 @@ void MainWindow::GiveBoardTheRoom() {
     const int total = split_->width() - split_->handleWidth();
     int boardWish = split_->height() + LabelMarginLeft;
     if (picture2_->isVisible()) boardWish += picture2_->width() + 6;
+    boardWish += moves_->width() + 6;
     const int lists = std::clamp(total - boardWish, MinListsWidth, MaxListsWidth);
     split_->setSizes({total - lists, lists});
 }
@@ -238,6 +240,7 @@ QWidget* MainWindow::BuildBoardArea() {
     picture2_ = new EditorPalette(game_);
     picture2_->hide();
     layout->addWidget(picture2_);
+    layout->addWidget(moves_ = new MoveListPanel(game_));
     return area;
 }
 
@@ -331,6 +334,7 @@ void MainWindow::BuildMenus() {
     add(file, "mnuloadgame", "&Load Game...", QKeySequence::Open);
     add(file, "mnusavegame", "&Save Game...", QKeySequence::Save);
     add(file, "mnuexportrecord", "&Export game record...");
+    add(file, "mnureviewgame", "Re&view game...");
     add(file, "mnuresetgame", "&Reset Game");
     file->addSeparator();
     add(file, "mnuexit", "E&xit");
@@ -343,6 +347,8 @@ void MainWindow::BuildMenus() {
     reasoning->setCheckable(true);
     reasoning->setChecked(true);
     connect(reasoning, &QAction::toggled, findChild<QWidget*>("ListTabs"), &QWidget::setVisible);
+    QAction* coordinates = add(view, "mnutaflcoords", "&Tafl coordinates");
+    coordinates->setCheckable(true);
 
     QMenu* options = menuBar()->addMenu("&Options");
     add(options, "mnuoptions", "&Options...");

@@ -14,6 +14,7 @@
 #include "ui/ColourValue.h"
 #include "ui/EditorPalette.h"
 #include "ui/MainWindow.h"
+#include "ui/MoveListPanel.h"
 #include "ui/MsgForm.h"
 #include "ui/UndoLine.h"
 #include "ui/WindowColours.h"
@@ -24,6 +25,7 @@
 namespace jv::ui {
 
 void MainWindow::DrawBoard() {
+    moves_->Refresh();
     ApplyWindowColours();
     picture_->DrawBoard();
 }
@@ -31,6 +33,7 @@ void MainWindow::DrawBoard() {
 // While the layout editor is on the picture shows the editor's position:
 // the single squares, marks and lines of the board underneath stay unseen.
 void MainWindow::DrawSquare(int col, int row, std::int32_t colour) {
+    moves_->Refresh();
     if (!game_.EditorOn) picture_->DrawSquare(col, row, ToQColor(colour));
 }
 
@@ -95,7 +98,10 @@ int MainWindow::Show(const std::string& text, const std::string& style) {
     return answer;
 }
 
-void MainWindow::EnableBoard(bool enabled) { picture_->setEnabled(enabled); }
+void MainWindow::EnableBoard(bool enabled) {
+    picture_->setEnabled(enabled);
+    moves_->Refresh();   // the game's end closes the board
+}
 
 void MainWindow::SetBusy(bool busy) {
     // Busy sections nest (the attackers' ranking inside the computer's
@@ -107,6 +113,7 @@ void MainWindow::SetBusy(bool busy) {
 }
 
 void MainWindow::UpdateCounters(int defenders, int attackers) {
+    moves_->Refresh();
     ptot_[0]->setText(QString::number(defenders));
     ptot_[1]->setText(QString::number(attackers));
 }
@@ -133,6 +140,7 @@ void MainWindow::RefreshList(ListId id) {
         case ListId::Undo: lines = &game_.Undo; break;
         case ListId::SearchLines: lines = &game_.SearchLines; break;
     }
+    if (id == ListId::Undo) moves_->Refresh();
     QStringList shown;
     shown.reserve(static_cast<qsizetype>(lines->size()));
     for (std::size_t i = 0; i < lines->size(); ++i)

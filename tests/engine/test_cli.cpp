@@ -36,6 +36,9 @@ TEST(Cli, EachCommandPrintsItsResultOrRefusesWithItsExitCode) {
     t.WriteFile("bad.txt", Small + "\r\n" + Moved + "\r\n" + Small + "\r\n" + KingMoved + "\r\n");
     t.WriteFile("kinghome.txt", "07070104HEE0EEH" + std::string(35, 'E') + "HEEEEEH\r\n");
     t.WriteFile("taken.txt", "07070401HEEEEEHE1EEEEE10EEEEE0EEEEEE1EEEEEEE1EEEEEHEEEEEH\r\n");
+    // The attackers could take the King on a3 with b1-b3; a2-c2 lets him home.
+    t.WriteFile("blunder.txt", "05050301HEEEH1EEEE0EEEE1EEEEH1EEH\r\n05050301HEEEH1EEEE0EEEEEE1EEH1EEH\r\n"
+                               "05050501HEEEH1EEEEEEEEEEE1EE01EEH\r\n");
     const struct { std::string args, input; int exit; Lines out; std::string err; } rows[] = {
         {"analyse small.txt", "", 0, {"size 5 5", "king 0303", "targets 0202 0102,0302,0402,0502,0201,0203,0204,0205,",
           "targets 0303 0203,0103,0403,0503,0302,0301,0304,0305,", "reach0 0103,0203,0301,0302,0304,0305,0403,0503,",
@@ -55,6 +58,9 @@ TEST(Cli, EachCommandPrintsItsResultOrRefusesWithItsExitCode) {
         {"record noking.log", "", 2, {}, "Moves Log File:\nnoking.log\nline 1: the position has no King\n"},
         {"record game.txt", "", 0, {"[rules:dim:5 esc:c surf:n atkf:y tfr:i ka:y ks:y cenh: cenhe: start:/5/5/2K2/1t3/5/]", "",
           "1. b4-d4 Kc3-c2"}, ""},
+        {"review blunder.txt --depth 2", "", 0, {"1. a2-c2  defenders win ?? (loses 20.00; best b1-b3)",
+          "1... Ka3-a1--  defenders win", "Attackers: 1 moves, 0 mistake(s), 1 blunder(s), average loss 20.00"}, ""},
+        {"review bad.txt --depth 1", "", 2, {}, "bad.txt\nline 4: pieces arrived on d4/c2: more than one move\n"},
         {"record bad.txt", "", 2, {}, "Moves Log File:\nbad.txt\nline 3: the attackers move twice in a row, where a record has "
                                       "the sides take turns\n"},
         {"replay game.otg", "", 0, {"Step 1 of 3", "D   a  a  d  K  d  a  a", "Step 2 of 3", "F   .  .  .  .  a  .  .",

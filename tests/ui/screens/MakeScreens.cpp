@@ -1,6 +1,7 @@
 // Draws the pictures of the README: the window in play after a few moves with a capture in the log, the
 // message box, the layout editor, the options dialog, the board in every shipped colour scheme, games under
-// the Copenhagen and the Tablut rules, and the opening of each rule set. Usage:
+// the Copenhagen and the Tablut rules, the opening of each rule set, and the move list with a review, in the
+// board's names and in tafl coordinates. Usage:
 //   ui_screens <output folder>
 // Runs on any Qt platform (offscreen or under xvfb-run).
 #include <iostream>
@@ -8,6 +9,7 @@
 #include "../WindowFixture.h"
 #include "records/ColourScheme.h"
 #include "session/NewGame.h"
+#include "ui/MoveListPanel.h"
 #include "ui/Form2.h"
 #include "ui/MsgForm.h"
 #include "ui/Surface.h"
@@ -136,6 +138,24 @@ bool SaveRuleSets(const QString& out) {
     return copenhagen && tablut && SaveOpenings(out);
 }
 
+// A few moves against the classic attackers, reviewed to a fixed depth, a marked move shown; then the same
+// in tafl coordinates.
+bool SaveReview(const QString& out) {
+    Screen s(1400, 800);
+    for (auto [from, to] : {std::pair{Square{4, 6}, Square{3, 6}}, {{6, 8}, {3, 8}}, {{8, 6}, {8, 9}}, {{6, 4}, {9, 4}}})
+        s.Drag(from, to);
+    auto* panel = s.Find<ui::MoveListPanel>("MoveListPanel");
+    panel->ReviewLimits.MaxDepth = 3;
+    panel->ReviewLimits.Millis = 0;
+    s.window.findChild<QAction*>("mnureviewgame")->trigger();
+    QTest::qWaitFor([&] { return !panel->Reviewing(); }, 60000);
+    QTest::mouseClick(s.Find<QTableWidget>("MoveList")->viewport(), Qt::LeftButton, {},
+                      s.Find<QTableWidget>("MoveList")->visualItemRect(s.Find<QTableWidget>("MoveList")->item(1, 1)).center());
+    bool ok = Save(s.window, out + "/move-list-review.png");
+    s.window.findChild<QAction*>("mnutaflcoords")->trigger();
+    return Save(s.window, out + "/move-list-tafl.png") && ok;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -144,5 +164,6 @@ int main(int argc, char** argv) {
     const QString out = argc > 1 ? argv[1] : "docs/screens";
     QDir().mkpath(out);
     const bool window = SaveWindow(out), editor = SaveEditor(out), options = SaveOptions(out);
-    return window && editor && options && SaveRuleSets(out) ? 0 : 1;
+    const bool review = SaveReview(out);
+    return window && editor && options && review && SaveRuleSets(out) ? 0 : 1;
 }
