@@ -1,5 +1,6 @@
 #include "session/MatchScore.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -45,19 +46,23 @@ ScoreInterval ScoreOf(const GameResults& results) {
     double variance = 0;
     for (int r = 0; r < 3; ++r) variance += counts[r] * (ResultPoints[r] - score) * (ResultPoints[r] - score);
     const double margin = Z95 * std::sqrt(variance / n / n);
-    return {score, score - margin, score + margin};
+    // The normal approximation may reach past what a score can be.
+    return {score, std::max(0.0, score - margin), std::min(1.0, score + margin)};
 }
 
 double EloFromScore(double score) {
     if (score <= 0) return -std::numeric_limits<double>::infinity();
     if (score >= 1) return std::numeric_limits<double>::infinity();
-    return -400 * std::log10(1 / score - 1);
+    return 400 * std::log10(score / (1 - score));
 }
 
 double ScoreFromElo(double elo) { return 1 / (1 + std::pow(10.0, -elo / 400)); }
 
 EloEstimate EloOf(const ScoreInterval& score) {
-    return {EloFromScore(score.Score), (EloFromScore(score.High) - EloFromScore(score.Low)) / 2};
+    const double error = (EloFromScore(score.High) - EloFromScore(score.Low)) / 2;
+    // An interval that reaches a score of 0 or 1 bounds the Elo on neither side (where it is one point, too).
+    const bool bounded = score.Low > 0 && score.High < 1;
+    return {EloFromScore(score.Score), bounded ? error : std::numeric_limits<double>::infinity()};
 }
 
 double SprtLogLikelihoodRatio(const GameResults& results, double elo0, double elo1) {

@@ -24,7 +24,7 @@ struct EloEstimate {
 };
 
 // The score and its interval from the spread of the games' results (normal
-// approximation); no games score a half with no spread.
+// approximation, kept within 0 and 1); no games score a half with no spread.
 ScoreInterval ScoreOf(const GameResults& results);
 
 // The Elo difference of the logistic model: -400 log10(1/score - 1); plus or
@@ -32,7 +32,8 @@ ScoreInterval ScoreOf(const GameResults& results);
 double EloFromScore(double score);
 double ScoreFromElo(double elo);
 
-// The Elo of the score, its error half the Elo width of the interval.
+// The Elo of the score, its error half the Elo width of the interval
+// (infinite when the interval reaches a score of 0 or 1).
 EloEstimate EloOf(const ScoreInterval& score);
 
 // The log-likelihood ratio of "the player is elo1 stronger" against "elo0
