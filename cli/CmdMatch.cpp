@@ -45,25 +45,30 @@ struct MatchOptions {
     std::vector<std::string> Layouts;
 };
 
-// "A,B" as two numbers, or "MAIN+INC" (the increment optional) with the separator given.
-bool ReadNumberPair(const std::string& text, char separator, bool secondOptional, double& first, double& second) {
-    const std::size_t at = text.find(separator);
-    if (at == std::string::npos && !secondOptional) return false;
+// A number on the command line, the whole of the text.
+bool ReadNumber(const std::string& text, double& value) {
     try {
         std::size_t used = 0;
-        const std::string a = text.substr(0, at), b = at == std::string::npos ? "0" : text.substr(at + 1);
-        first = std::stod(a, &used);
-        if (used != a.size()) return false;
-        second = std::stod(b, &used);
-        return used == b.size() && std::isfinite(first) && std::isfinite(second);
+        value = std::stod(text, &used);
+        return used == text.size() && std::isfinite(value);
     } catch (...) {
         return false;
     }
 }
 
-bool ReadRate(const std::string& text, double& rate) {
-    double unused = 0;
-    return ReadNumberPair(text, ',', true, rate, unused) && rate > 0 && rate < 1;
+// "FIRST<separator>SECOND" as two numbers; where the second may be left out,
+// a text without the separator is the first alone.
+bool ReadNumbers(const std::string& text, char separator, bool secondOptional, double& first, double& second) {
+    const std::size_t at = text.find(separator);
+    if (at == std::string::npos) return secondOptional && ReadNumber(text, first);
+    return ReadNumber(text.substr(0, at), first) && ReadNumber(text.substr(at + 1), second);
+}
+
+bool ReadRate(const std::string& text, double& rate) { return ReadNumber(text, rate) && rate > 0 && rate < 1; }
+
+bool ReadSprt(const std::string& text, SprtTest& sprt) {
+    sprt.On = true;
+    return ReadNumbers(text, ',', false, sprt.Elo0, sprt.Elo1) && sprt.Elo0 != sprt.Elo1;
 }
 
 bool ReadOption(MatchOptions& o, const std::string& a, const std::string& value, bool& attackers, bool& defenders) {
@@ -76,11 +81,11 @@ bool ReadOption(MatchOptions& o, const std::string& a, const std::string& value,
     if (a == "--rules") return ReadRulesOption(value, o.GameRules);
     if (a == "--alpha") return ReadRate(value, o.Sprt.Alpha);
     if (a == "--beta") return ReadRate(value, o.Sprt.Beta);
-    if (a == "--sprt") return (o.Sprt.On = ReadNumberPair(value, ',', false, o.Sprt.Elo0, o.Sprt.Elo1)) && o.Sprt.Elo0 != o.Sprt.Elo1;
+    if (a == "--sprt") return ReadSprt(value, o.Sprt);
     if (a != "--clock") return false;
     SideClock& clock = o.Settings.Clock;
     o.ClockText = value;
-    return ReadNumberPair(value, '+', true, clock.Seconds, clock.IncrementSeconds) &&
+    return ReadNumbers(value, '+', true, clock.Seconds, clock.IncrementSeconds) &&
            clock.Seconds > 0 && clock.IncrementSeconds >= 0;
 }
 
@@ -168,6 +173,7 @@ bool PlayOpeningGames(const MatchOptions& o, const std::string& layout, long lon
     return !o.Paired || PlayOne(o, layout, opening, DefenderCode, t);
 }
 
+// Up to four numbers in printf's format.
 std::string Formatted(const char* format, double a, double b = 0, double c = 0, double d = 0) {
     char text[160];
     std::snprintf(text, sizeof text, format, a, b, c, d);
@@ -180,7 +186,8 @@ void PrintScore(const std::string& label, const MatchOptions& o, const Tally& t)
     const EloEstimate elo = EloOf(s);
     std::cout << label << ": score of " << (o.Paired ? "A" : "the attackers") << " ("
               << MatchPlayerName(o.Players[PlayerA]) << "): " << Formatted("%.1f", t.A.Points()) << " of " << t.Games
-              << Formatted(", %.1f%% (95%%: %.1f%% to %.1f%%), Elo %+.1f", 100 * s.Score, 100 * s.Low, 100 * s.High, elo.Elo)
+              << Formatted(", %.1f%% (95%%: %.1f%% to %.1f%%), Elo %+.1f", 100 * s.Score, 100 * s.Low, 100 * s.High,
+                           elo.Elo)
               << Formatted(" ± %.1f", elo.Error) << '\n';
 }
 
