@@ -27,7 +27,7 @@ const std::map<std::string, Command>& Commands() {
         {"otn", {RunOtn, "otn FILE|- [--rules NAME]  print the OpenTafl position of a layout (with the rules record of a rule set)"}},
         {"from-otn", {RunFromOtn, "from-otn POSITION OUT  write an OpenTafl position as a layout file"}},
         {"bestmove", {RunBestmove, "bestmove FILE --side attackers|defenders [--ms N | --depth D] [--rules NAME]  the strong player's move"}},
-        {"match", {RunMatch, "match --attackers classic|strong[:MS] --defenders classic|strong[:MS] --games N [--openings K] [--seed S] [--rules NAME] LAYOUT...  the players against each other"}},
+        {"match", {RunMatch, "match --attackers PLAYER --defenders PLAYER --games N [--paired] [--sprt ELO0,ELO1] [--clock MAIN+INC] ... LAYOUT...  the players against each other: score, Elo, SPRT (all options: match alone)"}},
         {"record", {RunRecord, "record LOGFILE [--rules NAME]  print a moves log as a game record in standard move notation"}},
         {"review", {RunReview, "review LOGFILE|RECORD.otg [--ms N | --depth D] [--rules NAME]  the strong player's verdict on every move"}},
         {"rules", {RunRules, "rules               list the rule sets: name, board, opening layout, OpenTafl rules keys"}},

@@ -42,6 +42,12 @@ Game AsGame(const Position& g) {
     return game;
 }
 
+// The protocol's clock line: each side's whole seconds left (-1 without a
+// clock), no overtime.
+std::string ClockLine(int attackerSeconds, int defenderSeconds) {
+    return "clock " + std::to_string(attackerSeconds) + " " + std::to_string(defenderSeconds) + " 0 0 0";
+}
+
 }  // namespace
 
 std::string SimpleMoveText(const Position& g, const Move& m) {
@@ -94,17 +100,29 @@ bool EngineHost::Start(const Position& g, int side, int toMove, int startMillis,
 }
 
 bool EngineHost::AskMove(const Position& g, int side, int millis, Move& move, std::string& failure) {
+    const int seconds = (millis + 999) / 1000;
+    return Ask(g, side, ClockLine(side == AttackerCode ? seconds : -1, side == DefenderCode ? seconds : -1),
+               millis + AnswerMarginMillis, move, failure);
+}
+
+bool EngineHost::AskMove(const Position& g, int side, const SideClock (&clocks)[2], Move& move, std::string& failure) {
+    // The protocol's clock counts whole seconds: the engine is never told of time it has not.
+    const auto whole = [](const SideClock& c) { return c.Seconds < 0 ? -1 : static_cast<int>(c.Seconds); };
+    const int waitMillis = static_cast<int>(std::max(0.0, clocks[side].Seconds) * 1000) + AnswerMarginMillis;
+    return Ask(g, side, ClockLine(whole(clocks[AttackerCode]), whole(clocks[DefenderCode])), waitMillis, move, failure);
+}
+
+bool EngineHost::Ask(const Position& g, int side, const std::string& clockLine, int waitMillis, Move& move,
+                     std::string& failure) {
     if (ended_) {
         failure = "the engine has ended";
         return false;
     }
-    const int seconds = (millis + 999) / 1000;
     link_.Send(std::string("play ") + SideWord(side));
-    link_.Send("clock " + std::to_string(side == AttackerCode ? seconds : -1) + " " +
-               std::to_string(side == DefenderCode ? seconds : -1) + " 0 0 0");
+    link_.Send(clockLine);
     std::string line;
     for (;;) {
-        if (!ReadLine(line, millis + AnswerMarginMillis, failure)) return false;
+        if (!ReadLine(line, waitMillis, failure)) return false;
         const std::string command = FirstWord(line);
         if (command == "move") break;
         if (IsQuietProtocolLine(command)) continue;

@@ -3,6 +3,7 @@
 
 #include "core/Game.h"
 #include "session/EngineLink.h"
+#include "session/ThinkingTime.h"
 
 namespace jv {
 
@@ -24,6 +25,9 @@ public:
     // The engine's move for its side in the position, within millis of
     // thinking (and a margin); false with what the engine did wrong.
     bool AskMove(const Position& g, int side, int millis, Move& move, std::string& failure);
+    // The same on a game clock (indexed by side code): the engine is told
+    // both sides' time left and may take its own side's (and a margin).
+    bool AskMove(const Position& g, int side, const SideClock (&clocks)[2], Move& move, std::string& failure);
     // Tells the engine the opponent's move and the position it leaves.
     void TellMove(const Move& m, const Position& after);
     // Tells the engine the game's end (2 the attackers won, 3 the defenders,
@@ -32,6 +36,8 @@ public:
 
 private:
     bool ReadLine(std::string& line, int millis, std::string& failure);
+    bool Ask(const Position& g, int side, const std::string& clockLine, int waitMillis, Move& move,
+             std::string& failure);
 
     EngineLink& link_;
     bool ended_ = false;

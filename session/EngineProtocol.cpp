@@ -10,15 +10,13 @@
 #include "records/Notation.h"
 #include "records/Otn.h"
 #include "records/RulesRecord.h"
+#include "session/ThinkingTime.h"
 
 namespace jv {
 
 namespace {
 
-// A move's thinking time without a clock.
-constexpr int UnclockedMillis = 2000;
-// The share of the main time one move may take, and the least it takes.
-constexpr int MovesToPlan = 30;
+// The least time an analysis takes.
 constexpr int LeastMillis = 50;
 
 std::vector<std::string> Words(const std::string& line) {
@@ -141,15 +139,11 @@ bool EngineProtocol::MakeMove(const std::string& text, int side) {
 }
 
 int EngineProtocol::MoveMillis(int side) const {
-    const double seconds = side == AttackerCode ? attackerSeconds_ : defenderSeconds_;
-    const int overtimes = side == AttackerCode ? attackerOvertimes_ : defenderOvertimes_;
-    if (seconds < 0) return UnclockedMillis;
-    // A share of the main time, and most of an overtime period once the
-    // main time is what is left of one; never more than half of what is left.
-    double millis = seconds * 1000 / MovesToPlan;
-    if (overtimes > 0) millis += overtimeSeconds_ * 1000 * 0.8;
-    millis = std::min(millis, std::max(seconds, overtimes > 0 ? overtimeSeconds_ : 0.0) * 1000 / 2);
-    return std::max(LeastMillis, static_cast<int>(millis));
+    SideClock clock;
+    clock.Seconds = side == AttackerCode ? attackerSeconds_ : defenderSeconds_;
+    clock.OvertimeSeconds = overtimeSeconds_;
+    clock.Overtimes = side == AttackerCode ? attackerOvertimes_ : defenderOvertimes_;
+    return ThinkingMillis(clock);
 }
 
 void EngineProtocol::PlayNow() {

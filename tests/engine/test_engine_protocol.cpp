@@ -268,3 +268,13 @@ TEST(EnginePlayer, PlaysItsSideInTheGameOrLosesSayingWhatItDid) {
                   link->Sent.end());
     }
 }
+
+TEST(ThinkingTime, AMoveTakesAShareOfTheClockAndMostOfWhatEachMoveGivesBack) {
+    // A move takes 1/30 of the main time and 0.8 of an increment or overtime period, never over half of what is
+    // left nor under 50 ms; 2 s without a clock.
+    const struct { SideClock clock; int millis; } rows[] = {
+        {{-1, 0, 0, 0}, 2000}, {{60, 0, 0, 0}, 2000}, {{60, 1, 0, 0}, 2800},
+        {{1, 1, 0, 0}, 500},   {{0, 0, 10, 1}, 5000}, {{0.01, 0, 0, 0}, 50},
+    };
+    for (const auto& r : rows) EXPECT_EQ(ThinkingMillis(r.clock), r.millis) << r.clock.Seconds << "+" << r.clock.IncrementSeconds;
+}
