@@ -25,6 +25,7 @@ namespace jv::ui {
 
 void MainWindow::DrawBoard() {
     ApplyWindowColours();
+    picture_->HideMoveMark();
     picture_->DrawBoard();
 }
 
