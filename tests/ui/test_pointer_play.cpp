@@ -23,7 +23,8 @@ class TestPointerPlay : public QObject {
     Q_OBJECT
 private slots:
     void AcceptedDropIsAnsweredByOneComputerMove() {
-        // An accepted drop is answered by one computer move while the board is closed and the pointer busy.
+        // An accepted drop is answered by one computer move while the board is closed and the pointer busy; the
+        // turn line names the side that moved last.
         StartedWindow p(30);
         bool enabledDuringMove = true;
         Qt::CursorShape cursor = Qt::ArrowCursor;
@@ -39,6 +40,7 @@ private slots:
         QVERIFY(p.window.statusBar()->currentMessage().endsWith(": defender"));   // the dropped piece named
         QVERIFY(!enabledDuringMove && cursor == Qt::BusyCursor);
         QVERIFY(p.Board()->isEnabled() && QApplication::overrideCursor() == nullptr);
+        QVERIFY(p.Find<QLabel>("TurnLine")->text().startsWith("Last move: Attackers, "));
     }
 
     void RefusedDropGetsNoAnswer_data() {
@@ -149,7 +151,8 @@ private slots:
     }
 
     void KingDraggedHomeEndsTheGame() {
-        // The King dragged onto a corner wins, with no undo record or reply, and the board waits for a reset.
+        // The King dragged onto a corner wins, with no undo record or reply; the board waits for a reset and the
+        // turn line says how the game ended until then.
         StartedWindow p;
         p.Load("capture.txt", CaptureLayout);
         const QColor king = p.At(1, 5);
@@ -160,9 +163,11 @@ private slots:
         const std::string finished = EncodePosition(p.g());
         p.Drag({2, 3}, {4, 3});
         QCOMPARE(EncodePosition(p.g()), finished);
+        const auto turn = [&] { return p.Find<QLabel>("TurnLine")->text(); };
+        QCOMPARE(turn(), "Game over: The King has reached a corner: the defenders win");
         p.questions.AnswerTo["Reset layout?"] = 6;
         p.Press("cmdreset");
-        QVERIFY(p.Board()->isEnabled() && p.g().KingRow == 5);
+        QVERIFY(p.Board()->isEnabled() && p.g().KingRow == 5 && turn() == "Last move: none yet");
     }
 
     void CandidateLinePreviewsItsMove() {
