@@ -106,12 +106,15 @@ private slots:
         QCOMPARE(std::pair(p.g().PointerSquare.Col, p.g().PointerSquare.Row), std::pair(found.Col, found.Row));
     }
 
-    void CaptureIsMarkedRemovedAndLogged() {
-        // A captured attacker carries the small mark during the capture's pause, then is removed and logged.
+    void CaptureIsMarkedRemovedAndLoggedAndUndoRestoresTheDrawnBoard() {
+        // A captured attacker carries the small mark during the capture's pause, then is removed and logged;
+        // undo and a click on an older Undo entry show the earlier position as it was drawn.
         StartedWindow p(20);
         p.Load("capture.txt", CaptureLayout);
         QVERIFY(p.questions.WasAsked("Layout loaded from file:\r\ncapture.txt"));
         p.Find("Check1")->setChecked(false);
+        const std::string start = EncodePosition(p.g());
+        const QImage drawnAtStart = p.Picture();
         const QColor background = ui::ToQColor(p.g().ColourTable[2]);
         QColor markedVictim;
         QTimer::singleShot(5, &p.window, [&] {
@@ -120,34 +123,21 @@ private slots:
             markedVictim = p.Picture().pixelColor(ui::ToPixels(geo.Left(5, 3)) + inside,
                                                   ui::ToPixels(geo.Top(5, 3)) + inside);
         });
-        p.Drag({2, 3}, {4, 3});
-        QCOMPARE(p.g().Board(5, 3), EmptyCode);
-        QCOMPARE(p.Logged("  Player 1 captures E3"), 1);
+        p.Drag({2, 3}, {4, 3});   // takes E3
+        QVERIFY(p.g().Board(5, 3) == EmptyCode && p.Logged("  Player 1 captures E3") == 1);
         QCOMPARE(markedVictim, ui::ToQColor(p.g().ColourTable[9]));
         QVERIFY(p.At(5, 3) == background && p.At(4, 3) != background);
         QCOMPARE(p.Find<QLabel>("ptot1")->text(), QString("1"));
-    }
-
-    void UndoRestoresTheDrawnBoard() {
-        // Undo and a click on an older Undo entry show the earlier position as it was drawn.
-        StartedWindow p;
-        p.Load("capture.txt", CaptureLayout);
-        p.Find("Check1")->setChecked(false);
-        const std::string start = EncodePosition(p.g());
-        const QImage drawnAtStart = p.Picture();
-        p.Drag({2, 3}, {4, 3});   // takes E3
         p.Drag({6, 3}, {6, 1});
         auto* undo = p.Find<QListWidget>("Undo");
         QCOMPARE(Lines(undo).front() + "|" + Lines(undo).back(),
                  std::string("Before move 2: King A5, 2 v 1|Before move 1: King A5, 2 v 2"));
         QTest::mouseClick(undo->viewport(), Qt::LeftButton, {}, undo->visualItemRect(undo->item(1)).center());
-        QCOMPARE(EncodePosition(p.g()), start);
-        QVERIFY(undo->count() == 2 && p.Picture() == drawnAtStart);
+        QVERIFY(EncodePosition(p.g()) == start && undo->count() == 2 && p.Picture() == drawnAtStart);
         p.Press("cmdundo");
         QVERIFY(p.g().Board(4, 3) == DefenderCode && p.g().Board(6, 3) == DefenderCode);
         p.Press("cmdundo");
-        QCOMPARE(EncodePosition(p.g()), start);
-        QVERIFY(undo->count() == 0 && p.Picture() == drawnAtStart);
+        QVERIFY(EncodePosition(p.g()) == start && undo->count() == 0 && p.Picture() == drawnAtStart);
     }
 
     void KingDraggedHomeEndsTheGame() {
