@@ -43,26 +43,6 @@ private slots:
         QVERIFY(p.Find<QLabel>("TurnLine")->text().startsWith("Last move: Attackers, "));
     }
 
-    void RefusedDropGetsNoAnswer_data() {
-        QTest::addColumn<Square>("from");
-        QTest::addColumn<Square>("to");
-        QTest::newRow("onto an attacker") << Square{4, 6} << Square{2, 6};
-        QTest::newRow("off the squares") << Square{4, 6} << Square{-1, -1};
-    }
-    void RefusedDropGetsNoAnswer() {
-        // A drop the rules refuse changes nothing, gets no answer and leaves no drag line.
-        QFETCH(Square, from);
-        QFETCH(Square, to);
-        StartedWindow p;
-        const std::string before = EncodePosition(p.g());
-        p.Send(QEvent::MouseButtonPress, from.Col, from.Row, Qt::LeftButton);
-        const QPoint drop = to.Col < 0 ? QPoint(2, 2) : p.Board()->SquareCentre(to.Col, to.Row);
-        SendMouse(p.Board(), QEvent::MouseButtonRelease, drop, Qt::NoButton);
-        QCOMPARE(EncodePosition(p.g()), before);
-        QCOMPARE(p.Logged("Move"), 0);
-        QVERIFY(!p.Board()->DragLineShown() && p.g().DragSource.Col == -1);
-    }
-
     void PressShowsTheReachAndTheHint() {
         // Pressing on a defender paints its reach until let go; moving the pointer shows the square's hint.
         StartedWindow p;
