@@ -90,11 +90,15 @@ bool OnBoard(const Game& g, int col, int row) {
 // that the same position always gets the same move.
 constexpr int FallbackDepth = 4;
 
-// The message of a side that truly cannot move.
+// The message of a side that truly cannot move. Unless the classic pair
+// plays, the automatic game stops there, and the log says why.
 void ShowNoMove(Game& g, int side) {
-    g.View->Show(std::string(side == AttackerCode ? "No move for the Attacker" : "No move for the Defender") +
-                     "\r\nClick Reset to start another Game",
-                 "Vbcritical+vbok");
+    const std::string text = side == AttackerCode ? "No move for the Attacker" : "No move for the Defender";
+    if (!ClassicPairPlays(g)) {
+        g.AutoGameRunning = false;
+        PrintLog(g, text, side + 1, 0);
+    }
+    g.View->Show(text + "\r\nClick Reset to start another Game", "Vbcritical+vbok");
 }
 
 std::string MoveName(const Game& g, const Move& m) {
@@ -169,6 +173,10 @@ void PlayThoughtMove(Game& g, int side) {
 PlayerKind PlayerOf(const Game& g, int side) {
     const PlayerKind chosen = side == AttackerCode ? g.Players.Attackers : g.Players.Defenders;
     return chosen == PlayerKind::Classic && !PlaysClassicRules(g) ? PlayerKind::Strong : chosen;
+}
+
+bool ClassicPairPlays(const Game& g) {
+    return PlayerOf(g, AttackerCode) == PlayerKind::Classic && PlayerOf(g, DefenderCode) == PlayerKind::Classic;
 }
 
 void MakeAutoMove(Game& g, int side) {

@@ -11,6 +11,10 @@ namespace jv {
 // classic players knowing the classic rules only.
 PlayerKind PlayerOf(const Game& g, int side);
 
+// True when the classic players play both sides (so the classic rules): the
+// pair whose automatic game plays on past the end of a game.
+bool ClassicPairPlays(const Game& g);
+
 // The computer's move for side: MakeRedAutoMove or MakeGreenAutoMove.
 void MakeAutoMove(Game& g, int side);
 

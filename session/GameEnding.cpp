@@ -76,11 +76,11 @@ void EndGame(Game& g, GameEnding ending, const std::string& headline, const char
     g.View->EnableBoard(false);
 }
 
+void LogEnding(Game& g, GameEnding ending) { PrintLog(g, EndingText(g, ending), Winner(ending) + 1, 0); }
+
 void AnnounceEnding(Game& g, GameEnding ending) {
-    const int winner = Winner(ending);
-    const std::string text = EndingText(g, ending);
-    PrintLog(g, text, winner + 1, 0);
-    EndGame(g, ending, text, winner == g.Players.UserSide ? "vbhappy+vbok" : "vbcritical+vbok");
+    LogEnding(g, ending);
+    EndGame(g, ending, EndingText(g, ending), Winner(ending) == g.Players.UserSide ? "vbhappy+vbok" : "vbcritical+vbok");
 }
 
 }  // namespace jv

@@ -35,8 +35,11 @@ std::string EndingText(const Position& g, GameEnding ending);
 // taking pointer input. Buttons and menus stay available.
 void EndGame(Game& g, GameEnding ending, const std::string& headline, const char* style);
 
-// Writes the end into the event log in the winner's colour, shows it (happy
-// when the user's side wins) and ends the game.
+// Writes the end into the event log in the winner's colour.
+void LogEnding(Game& g, GameEnding ending);
+
+// Writes the end into the event log, shows it (happy when the user's side
+// wins) and ends the game.
 void AnnounceEnding(Game& g, GameEnding ending);
 
 }  // namespace jv

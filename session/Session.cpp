@@ -64,12 +64,13 @@ void AutoGame(Game& g) {
         return;
     }
     // The user's stop or the program's end stops it at once, even between
-    // the two moves of a round. Under the classic rules it runs on after a
-    // game has ended, the defenders moving first in every round; under any
-    // other rule set the sides move in turn from the side to move, and the
-    // end of the game stops it too.
+    // the two moves of a round. The classic pair runs on after a game has
+    // ended, the defenders moving first in every round; with any other
+    // player on a side, or under any other rule set, the end of the game
+    // stops it too, and under any other rule set the side to move begins.
     g.AutoGameRunning = true;
-    const auto goesOn = [&g] { return g.AutoGameRunning && !g.Ending && (PlaysClassicRules(g) || !g.GameOver); };
+    const bool overBefore = g.GameOver;
+    const auto goesOn = [&g] { return g.AutoGameRunning && !g.Ending && (ClassicPairPlays(g) || !g.GameOver); };
     while (goesOn()) {
         const std::string before = EncodePosition(g);
         g.View->DoEvents();
@@ -83,6 +84,10 @@ void AutoGame(Game& g) {
         if (goesOn() && EncodePosition(g) == before) g.View->Pause(1000);
     }
     g.AutoGameRunning = false;
+    // Stopped by the end of the game under the classic rules, whose message
+    // box wrote no log line: the log says how it ended.
+    if (g.GameOver && !overBefore && PlaysClassicRules(g) && !ClassicPairPlays(g) && g.Result != GameEnding::None)
+        LogEnding(g, g.Result);
 }
 
 bool ExitCommand(Game& g) {

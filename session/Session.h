@@ -23,8 +23,9 @@ bool GameFinished(const Game& g);
 
 // Plays both sides until the user stops it or the program ends; pressed
 // while it plays, it stops. Under the classic rules each round begins with
-// the defenders and it plays on after a game has ended; under any other rule
-// set the side to move begins and the end of the game stops it.
+// the defenders; under any other rule set the side to move begins. The
+// classic pair plays on after a game has ended; with any other player on a
+// side the end of the game, or a side without a move, stops it, said once.
 void AutoGame(Game& g);
 
 // The exit command (cmdexit): asks "Exit?"; on Yes writes the configuration

@@ -69,7 +69,11 @@ std::vector<std::uint64_t> PlayedKeys(const Game& g, int side) {
 }  // namespace
 
 std::optional<Move> ThinkStrong(Game& g, int side, bool* stopped) {
-    if (g.GameOver) return std::nullopt;
+    // A finished game asks no move: that is no side left without one.
+    if (g.GameOver) {
+        if (stopped) *stopped = true;
+        return std::nullopt;
+    }
     const int gameNumber = g.GameNumber;
     const std::string position = EncodePosition(g);
     const auto gameChanged = [&] {

@@ -67,8 +67,13 @@ void BoardPicture::DrawPiece(int a, int b, int drawCode) {
 }
 
 void BoardPicture::DrawMoveMark(int fromA, int fromB, int toA, int toB) {
-    if (FitToWidget()) DrawBoard();
-    ui::DrawMoveMark({g_, geometry_, pictures_, pixmap_}, fromA, fromB, toA, toB);
+    markVisible_ = true;
+    mark_[0] = fromA, mark_[1] = fromB, mark_[2] = toA, mark_[3] = toB;
+    update();
+}
+
+void BoardPicture::HideMoveMark() {
+    markVisible_ = false;
     update();
 }
 
@@ -115,7 +120,13 @@ void BoardPicture::paintEvent(QPaintEvent*) {
     if (drawPending_) Redraw();
     QPainter p(this);
     if (pixmap_.isNull() || pixmap_.size() != size()) p.fillRect(rect(), BoardBackColour(g_));
-    if (!pixmap_.isNull()) p.drawPixmap(0, 0, pixmap_);
+    if (markVisible_ && !g_.EditorOn && !pixmap_.isNull()) {
+        QPixmap marked = pixmap_;
+        ui::DrawMoveMark({g_, geometry_, pictures_, marked}, mark_[0], mark_[1], mark_[2], mark_[3]);
+        p.drawPixmap(0, 0, marked);
+    } else if (!pixmap_.isNull()) {
+        p.drawPixmap(0, 0, pixmap_);
+    }
     PaintOverlay(p);
 }
 

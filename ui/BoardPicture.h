@@ -11,8 +11,8 @@
 namespace jv::ui {
 
 // The board picture, Picture1. The board is drawn into a retained pixmap
-// that the widget paints; the drag line and its marker lie over it and never
-// touch the pixmap. Pressing on a defender or the King starts a drag through
+// that the widget paints; the last move's mark, the drag line and its marker
+// lie over it and never touch the pixmap. Pressing on a defender or the King starts a drag through
 // the game's pointer rules (see BoardPointer.cpp).
 class BoardPicture : public QWidget {
     Q_OBJECT
@@ -26,8 +26,12 @@ public:
     void DrawBoard();
     void DrawSquare(int a, int b, const QColor& colour);
     void DrawPiece(int a, int b, int drawCode);
-    void DrawMoveMark(int fromA, int fromB, int toA, int toB);
     void MarkVictim(int a, int b);
+
+    // The mark of the last move, over the picture: the next one replaces it,
+    // and it goes when the board is drawn whole for the game.
+    void DrawMoveMark(int fromA, int fromB, int toA, int toB);
+    void HideMoveMark();
 
     // The line from the centre of one square to the centre of another, with
     // the marker on its start.
@@ -82,6 +86,9 @@ private:
     int boardWidth_ = -1, boardHeight_ = -1;
     bool drawPending_ = false;   // asked to draw while hidden
 
+    // The last move's mark: from and to squares.
+    bool markVisible_ = false;
+    int mark_[4] = {};
     // The drag line and its marker, in widget pixels.
     bool lineVisible_ = false;
     QPoint lineFrom_, lineTo_, markerAt_;

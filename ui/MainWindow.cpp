@@ -13,6 +13,7 @@
 #include "ui/ColourValue.h"
 #include "ui/MoveListPanel.h"
 #include "ui/WindowColours.h"
+#include "ui/WindowPlacement.h"
 #include "ui/widgets/LineList.h"
 
 namespace jv::ui {
@@ -27,6 +28,7 @@ MainWindow::MainWindow(const std::string& programFolder, QWidget* parent) : QMai
     if (!game_.ProgramFolder.empty() && game_.ProgramFolder.back() != '/' && game_.ProgramFolder.back() != '\\')
         game_.ProgramFolder += '/';
     BuildWindow();
+    PlaceWindow(*this, game_.ProgramFolder);
     if (auto* about = findChild<QAction*>("mnuabout")) about->setText(QString("About ") + ProgramName);
     ConnectCommands();
 }
@@ -70,6 +72,8 @@ void MainWindow::ApplyWindowColours() {
 void MainWindow::EndNow() {
     if (ended_) return;
     ended_ = true;
+    // However the program ends, a window that was up keeps its place.
+    if (isVisible()) KeepWindowPlace(*this, game_.ProgramFolder);
     game_.Ending = true;
     timer1_->stop();
     moves_->StopReview();

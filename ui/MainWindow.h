@@ -133,6 +133,9 @@ private:
     void PlaceInEditor(int col, int row);
     void PreviewListMove(ListId list);
 
+    // The turn line: the last move, or once the game has ended, how it ended.
+    void ShowTurn(const QString& lastMove);
+
     void ApplyWindowColours();
     void SyncChecks();
     void EndNow();
@@ -146,6 +149,8 @@ private:
     std::map<ListId, QListWidget*> lists_;
     QLabel* layoutName_ = nullptr;
     QLabel* rulesName_ = nullptr;
+    QLabel* turnLine_ = nullptr;
+    QString lastMove_;
     std::array<QLabel*, 2> ptot_{};
     QCheckBox* check1_ = nullptr;
     QCheckBox* check2_ = nullptr;

@@ -63,6 +63,11 @@ void MainWindow::ConnectCommands() {
     connect(findChild<QAction*>("mnutaflcoords"), &QAction::toggled, this, &MainWindow::ChooseCoordinates);
     moves_->Settled = [this] { return !timer1_->isActive(); };
     onMenu("mnuresetgame", [this] { ResetGameCommand(game_); });
+    onMenu("mnuundo", [this] { UndoCommand(game_); });
+    onMenu("mnuhint", [this] { HintCommand(game_); });
+    onMenu("mnustopautogame", [this] {
+        if (game_.AutoGameRunning) AutoGame(game_);   // the stop
+    });
     onMenu("mnuexit", [this] { ExitCommand(game_); });
     onMenu("mnuoptions", [this] { ShowOptions(); });
     onMenu("mnuhelp", [this] { ShowHelp(); });
@@ -202,9 +207,12 @@ void MainWindow::ToggleAutoGame() {
         return;
     }
     QPointer<QPushButton> button = findChild<QPushButton*>("Command12");
+    QPointer<QAction> stop = findChild<QAction*>("mnustopautogame");
     button->setText("Stop AutoGame");
+    stop->setEnabled(true);
     AutoGame(game_);
     if (button) button->setText("AutoGame");
+    if (stop) stop->setEnabled(false);
 }
 
 void MainWindow::ShowHelp() {

@@ -18,6 +18,7 @@
 #include <QStyle>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -53,6 +54,9 @@ QWidget* Captioned(const QString& caption, QWidget* content, const QString& tool
     layout->addWidget(content, 1);
     return box;
 }
+
+// The inner margins of the command column's groups: narrow, to leave the board room.
+const QMargins GroupMargins(6, 6, 6, 6);
 
 QSplitter* Stack(std::initializer_list<QWidget*> parts) {
     auto* splitter = new QSplitter(Qt::Vertical);
@@ -90,7 +94,10 @@ void MainWindow::BuildWindow() {
     commands->setWidgetResizable(true);
     commands->setFrameShape(QFrame::NoFrame);
     commands->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    commands->setFixedWidth(commands->widget()->width() + style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 2);
+    // As narrow as its widest control allows, so that the board has the room.
+    const int commandsWidth = commands->widget()->minimumSizeHint().width();
+    commands->widget()->setFixedWidth(commandsWidth);
+    commands->setFixedWidth(commandsWidth + style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 2);
     columns->addWidget(commands);
     columns->addWidget(split_, 1);
     outer->addLayout(columns, 1);
@@ -105,7 +112,6 @@ void MainWindow::BuildWindow() {
         if (hint.isEmpty()) statusBar()->clearMessage();
         else statusBar()->showMessage(hint);
     });
-    resize(1280, 820);
 }
 
 void MainWindow::GiveBoardTheRoom() {
@@ -117,7 +123,8 @@ void MainWindow::GiveBoardTheRoom() {
     int boardWish = split_->height() + LabelMarginLeft;
     if (picture2_->isVisible()) boardWish += picture2_->width() + 6;
     boardWish += moves_->width() + 6;
-    const int lists = std::clamp(total - boardWish, MinListsWidth, MaxListsWidth);
+    const int least = std::max(MinListsWidth, split_->widget(1)->minimumSizeHint().width());
+    const int lists = std::clamp(total - boardWish, least, std::max(least, MaxListsWidth));
     split_->setSizes({total - lists, lists});
 }
 
@@ -131,13 +138,13 @@ QPushButton* MainWindow::AddButton(const char* name, const QString& caption, con
 QWidget* MainWindow::BuildCommandColumn() {
     auto* column = new QWidget;
     column->setObjectName("CommandColumn");
-    column->setFixedWidth(292);
     auto* layout = new QVBoxLayout(column);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(5);
 
     auto* game = new QGroupBox("Game");
     auto* grid = new QGridLayout(game);
+    grid->setContentsMargins(GroupMargins);
     grid->addWidget(AddButton("cmdload", "Load...", "Load a layout file"), 0, 0);
     grid->addWidget(AddButton("cmdsave", "Save...", "Save the position as a layout file"), 0, 1);
     grid->addWidget(AddButton("cmdreset", "Reset", "Start the current layout again"), 1, 0);
@@ -148,6 +155,7 @@ QWidget* MainWindow::BuildCommandColumn() {
 
     auto* play = new QGroupBox("Play");
     auto* playLayout = new QVBoxLayout(play);
+    playLayout->setContentsMargins(GroupMargins);
     check1_ = new QCheckBox("Computer Moves Auto after User Move");
     check1_->setObjectName("Check1");
     check1_->setChecked(true);
@@ -162,6 +170,7 @@ QWidget* MainWindow::BuildCommandColumn() {
 
     auto* status = new QGroupBox("Position");
     auto* statusLayout = new QGridLayout(status);
+    statusLayout->setContentsMargins(GroupMargins);
     layoutName_ = new ElidedLabel;
     layoutName_->setObjectName("LayoutName");
     statusLayout->addWidget(new QLabel("Layout:"), 0, 0);
@@ -183,6 +192,11 @@ QWidget* MainWindow::BuildCommandColumn() {
         statusLayout->addWidget(caption, i + 1, 0);
         statusLayout->addWidget(ptot_[i], i + 1, 1);
     }
+    turnLine_ = new QLabel;
+    turnLine_->setObjectName("TurnLine");
+    turnLine_->setWordWrap(true);
+    turnLine_->setToolTip("The last move, or how the game ended");
+    statusLayout->addWidget(turnLine_, 3, 0, 1, 2);
     statusLayout->setColumnStretch(1, 1);
     layout->addWidget(status);
 
@@ -294,6 +308,11 @@ QWidget* MainWindow::BuildListsColumn() {
                            AddList(ListId::SearchLines, "SearchLines"),
                            "The strong player's thinking, deepest first: press a line to see its first move"),
                  "Strong");
+    // Every tab shows its whole caption: the column is never narrower than
+    // its tabs, which keep a narrow padding to leave the board room.
+    tabs->setStyleSheet("QTabBar::tab { padding: 4px 7px; }");
+    tabs->tabBar()->setElideMode(Qt::ElideNone);
+    tabs->setUsesScrollButtons(false);
     for (ListId id : {ListId::List1A, ListId::List1D, ListId::SearchLines})
         lists_[id]->viewport()->installEventFilter(this);
 
@@ -331,6 +350,12 @@ void MainWindow::BuildMenus() {
         return action;
     };
     add(file, "mnunewgame", "&New Game...", QKeySequence::New);
+    add(file, "mnuundo", "&Undo", QKeySequence::Undo);
+    add(file, "mnuhint", "&Hint", QKeySequence(Qt::Key_H));
+    QAction* stop = add(file, "mnustopautogame", "S&top AutoGame");
+    stop->setShortcuts({QKeySequence(Qt::Key_Space), QKeySequence(Qt::Key_Escape)});
+    stop->setEnabled(false);   // while AutoGame plays
+    file->addSeparator();
     add(file, "mnuloadgame", "&Load Game...", QKeySequence::Open);
     add(file, "mnusavegame", "&Save Game...", QKeySequence::Save);
     add(file, "mnuexportrecord", "&Export game record...");

@@ -10,6 +10,8 @@
 #include <QTimer>
 #include <algorithm>
 
+#include "core/Board.h"
+#include "session/GameEnding.h"
 #include "ui/BoardPicture.h"
 #include "ui/ColourValue.h"
 #include "ui/EditorPalette.h"
@@ -27,7 +29,19 @@ namespace jv::ui {
 void MainWindow::DrawBoard() {
     moves_->Refresh();
     ApplyWindowColours();
+    picture_->HideMoveMark();
     picture_->DrawBoard();
+    ShowTurn({});
+}
+
+void MainWindow::ShowTurn(const QString& lastMove) {
+    lastMove_ = lastMove;
+    if (!game_.GameOver) {
+        turnLine_->setText("Last move: " + (lastMove.isEmpty() ? QString("none yet") : lastMove));
+        return;
+    }
+    const std::string how = EndingText(game_, game_.Result);
+    turnLine_->setText("Game over: " + (how.empty() ? QString("the game has ended") : QString::fromStdString(how)));
 }
 
 // While the layout editor is on the picture shows the editor's position:
@@ -42,7 +56,12 @@ void MainWindow::DrawPiece(int col, int row, int drawCode) {
 }
 
 void MainWindow::DrawMoveMark(const Move& m) {
-    if (!game_.EditorOn) picture_->DrawMoveMark(m.From.Col, m.From.Row, m.To.Col, m.To.Row);
+    if (game_.EditorOn) return;
+    picture_->DrawMoveMark(m.From.Col, m.From.Row, m.To.Col, m.To.Row);
+    // The mark follows the move: its piece stands on the target.
+    const char* side = game_.Board(m.To.Col, m.To.Row) == AttackerCode ? "Attackers" : "Defenders";
+    ShowTurn(QString("%1, %2 > %3").arg(side, QString::fromStdString(SquareName(game_, m.From.Col, m.From.Row)),
+                                        QString::fromStdString(SquareName(game_, m.To.Col, m.To.Row))));
 }
 
 void MainWindow::MarkVictim(int col, int row) {
@@ -101,6 +120,7 @@ int MainWindow::Show(const std::string& text, const std::string& style) {
 void MainWindow::EnableBoard(bool enabled) {
     picture_->setEnabled(enabled);
     moves_->Refresh();   // the game's end closes the board
+    if (game_.GameOver) ShowTurn(lastMove_);
 }
 
 void MainWindow::SetBusy(bool busy) {
@@ -121,6 +141,7 @@ void MainWindow::UpdateCounters(int defenders, int attackers) {
 void MainWindow::ShowLayoutName(const std::string& caption, const std::string& toolTip) {
     layoutName_->setText(QString::fromStdString(caption));
     layoutName_->setToolTip(QString::fromStdString(toolTip));
+    ShowTurn({});
     // Every game begins here, under the rule set it is played by.
     ShowPlayers();
 }

@@ -5,6 +5,7 @@
 
 #include "records/LayoutFile.h"
 #include "session/Session.h"
+#include "support/LayoutText.h"
 #include "support/Fixtures.h"
 
 using namespace jv;
@@ -37,4 +38,33 @@ TEST(AutoGame, APressWhileItPlaysStopsItAndARoundWithoutAMovePausesForIt) {
     EXPECT_FALSE(t.g.AutoGameRunning);
     EXPECT_FALSE(t.g.Ending);
     EXPECT_EQ(std::count(t.view.Calls.begin(), t.view.Calls.end(), "Pause 1000"), 2);
+}
+
+TEST(AutoGame, WithAnyOtherPlayerTheEndOfTheGameOrASideWithoutAMoveStopsItSaidOnce) {
+    // Unless the classic pair plays, AutoGame stops at the end of the game or a side without a move, which the
+    // message box and the log each say once.
+    const struct {
+        PlayerKind attackers, defenders;
+        std::string layout, message, logged;
+    } cases[] = {
+        {PlayerKind::Classic, PlayerKind::Strong, test::LayoutText({"H..dH", ".....", "K...a", ".....", "H...H"}),
+         "King at Home !", "The King has reached a corner: the defenders win"},
+        {PlayerKind::Strong, PlayerKind::Classic, test::LayoutText({"Ha..H", "aKa..", ".a...", ".....", "H...H"}),
+         "No move for the Defender", "No move for the Defender"},
+    };
+    for (const auto& c : cases) {
+        TestGame t;
+        t.g.Players = {.Attackers = c.attackers, .Defenders = c.defenders, .ThinkMillis = 50};
+        ASSERT_TRUE(ApplyLayoutLine(t.g, c.layout).Ok()) << c.layout;
+        int events = 0;
+        t.view.OnEvents = [&] {
+            if (++events == 3000) AutoGame(t.g);   // the user's stop, should it run on
+        };
+        AutoGame(t.g);
+        EXPECT_LT(events, 3000) << c.message;
+        const auto messages = t.view.Messages();
+        ASSERT_EQ(messages.size(), 1u) << c.message;
+        EXPECT_TRUE(messages[0].starts_with(c.message)) << messages[0];
+        EXPECT_EQ(std::count(t.g.EventLog.begin(), t.g.EventLog.end(), c.logged), 1) << c.message;
+    }
 }

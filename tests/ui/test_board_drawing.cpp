@@ -2,6 +2,7 @@
 // colour blocks, the edge labels and the move marks.
 #include "WindowFixture.h"
 #include "core/Board.h"
+#include "session/ComputerMoves.h"
 #include "support/RecordingView.h"
 #include "ui/BoardGeometry.h"
 #include "ui/BoardPainter.h"
@@ -183,6 +184,16 @@ private slots:
         const int x = d.X(9, 9), y = d.Y(9, 9), side = d.Side();
         QCOMPARE(image.pixelColor(x + side / 12 + 2, y + side / 12 + 2), mark);
         QVERIFY(image.pixelColor(x + side / 2, y + side / 2) != mark);
+    }
+
+    void AnimatedMovesLeaveAFreshDrawingUnderTheLastMark() {
+        // After animated moves the picture is a fresh drawing of the position, only the last move's mark over it.
+        uitest::StartedWindow s;
+        for (int side : {DefenderCode, AttackerCode, DefenderCode, AttackerCode}) MakeAutoMove(s.g(), side);
+        const QImage drawn = s.Picture(), shown = s.Board()->grab().toImage();
+        s.Board()->DrawBoard();
+        QVERIFY2(s.Picture() == drawn, "earlier marks left in the picture");
+        QVERIFY2(s.Board()->grab().toImage() == shown, "the last move's mark not shown over it");
     }
 };
 

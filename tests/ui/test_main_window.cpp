@@ -4,6 +4,7 @@
 #include "records/ColourScheme.h"
 #include "records/PositionRecord.h"
 #include "session/ComputerMoves.h"
+#include "session/Session.h"
 #include "ui/BoardPainter.h"
 #include "ui/MsgForm.h"
 #include "ui/WindowColours.h"
@@ -138,6 +139,38 @@ private slots:
             s.NextFile = "small.txt", s.questions.AnswerTo["Reset layout?"] = 6;
             for (const QString& name : presses) s.Press(qPrintable(name));
             QVERIFY2(filled() == 0, qPrintable(presses.front()));
+        }
+    }
+
+    void KeysInTheMenusActButLeaveTextFieldsTheirTyping() {
+        // Ctrl+N, Ctrl+Z, H, and Space or Escape for the stop of AutoGame are shown in their menu items and act;
+        // in a text field they are typing.
+        StartedWindow s;
+        s.g().Players.ThinkMillis = 200;
+        s.window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&s.window));
+        QStringList keys;
+        for (const char* name : {"mnunewgame", "mnuundo", "mnuhint", "mnustopautogame"})
+            keys << QKeySequence::listToString(s.Find<QAction>(name)->shortcuts());
+        QCOMPARE(keys, (QStringList{"Ctrl+N", "Ctrl+Z", "H", "Space; Esc"}));
+        auto* engine = s.Find<QLineEdit>("EngineCommand");
+        engine->setFocus();
+        QTest::keyClicks(engine, "h ");
+        QVERIFY(engine->text() == "h " && s.Logged("Hint:") == 0);
+        s.Board()->setFocus();
+        QTest::keyClick(&s.window, Qt::Key_H);
+        QCOMPARE(s.Logged("Hint:"), 1);
+        MakeRedAutoMove(s.g());
+        QTest::keyClick(&s.window, Qt::Key_Z, Qt::ControlModifier);
+        QVERIFY(s.g().Undo.empty());
+        bool stuck = false;
+        for (Qt::Key key : {Qt::Key_Space, Qt::Key_Escape}) {
+            QTimer::singleShot(300, &s.window, [&, key] { QTest::keyClick(&s.window, key); });
+            QTimer::singleShot(5000, &s.window, [&] {
+                if (s.g().AutoGameRunning) stuck = true, AutoGame(s.g());   // the button's stop
+            });
+            s.Press("Command12");
+            QVERIFY2(!stuck, "AutoGame not stopped by its key");
         }
     }
 

@@ -23,7 +23,8 @@ class TestPointerPlay : public QObject {
     Q_OBJECT
 private slots:
     void AcceptedDropIsAnsweredByOneComputerMove() {
-        // An accepted drop is answered by one computer move while the board is closed and the pointer busy.
+        // An accepted drop is answered by one computer move while the board is closed and the pointer busy; the
+        // turn line names the side that moved last.
         StartedWindow p(30);
         bool enabledDuringMove = true;
         Qt::CursorShape cursor = Qt::ArrowCursor;
@@ -39,26 +40,7 @@ private slots:
         QVERIFY(p.window.statusBar()->currentMessage().endsWith(": defender"));   // the dropped piece named
         QVERIFY(!enabledDuringMove && cursor == Qt::BusyCursor);
         QVERIFY(p.Board()->isEnabled() && QApplication::overrideCursor() == nullptr);
-    }
-
-    void RefusedDropGetsNoAnswer_data() {
-        QTest::addColumn<Square>("from");
-        QTest::addColumn<Square>("to");
-        QTest::newRow("onto an attacker") << Square{4, 6} << Square{2, 6};
-        QTest::newRow("off the squares") << Square{4, 6} << Square{-1, -1};
-    }
-    void RefusedDropGetsNoAnswer() {
-        // A drop the rules refuse changes nothing, gets no answer and leaves no drag line.
-        QFETCH(Square, from);
-        QFETCH(Square, to);
-        StartedWindow p;
-        const std::string before = EncodePosition(p.g());
-        p.Send(QEvent::MouseButtonPress, from.Col, from.Row, Qt::LeftButton);
-        const QPoint drop = to.Col < 0 ? QPoint(2, 2) : p.Board()->SquareCentre(to.Col, to.Row);
-        SendMouse(p.Board(), QEvent::MouseButtonRelease, drop, Qt::NoButton);
-        QCOMPARE(EncodePosition(p.g()), before);
-        QCOMPARE(p.Logged("Move"), 0);
-        QVERIFY(!p.Board()->DragLineShown() && p.g().DragSource.Col == -1);
+        QVERIFY(p.Find<QLabel>("TurnLine")->text().startsWith("Last move: Attackers, "));
     }
 
     void PressShowsTheReachAndTheHint() {
@@ -104,12 +86,15 @@ private slots:
         QCOMPARE(std::pair(p.g().PointerSquare.Col, p.g().PointerSquare.Row), std::pair(found.Col, found.Row));
     }
 
-    void CaptureIsMarkedRemovedAndLogged() {
-        // A captured attacker carries the small mark during the capture's pause, then is removed and logged.
+    void CaptureIsMarkedRemovedAndLoggedAndUndoRestoresTheDrawnBoard() {
+        // A captured attacker carries the small mark during the capture's pause, then is removed and logged;
+        // undo and a click on an older Undo entry show the earlier position as it was drawn.
         StartedWindow p(20);
         p.Load("capture.txt", CaptureLayout);
         QVERIFY(p.questions.WasAsked("Layout loaded from file:\r\ncapture.txt"));
         p.Find("Check1")->setChecked(false);
+        const std::string start = EncodePosition(p.g());
+        const QImage drawnAtStart = p.Picture();
         const QColor background = ui::ToQColor(p.g().ColourTable[2]);
         QColor markedVictim;
         QTimer::singleShot(5, &p.window, [&] {
@@ -118,38 +103,26 @@ private slots:
             markedVictim = p.Picture().pixelColor(ui::ToPixels(geo.Left(5, 3)) + inside,
                                                   ui::ToPixels(geo.Top(5, 3)) + inside);
         });
-        p.Drag({2, 3}, {4, 3});
-        QCOMPARE(p.g().Board(5, 3), EmptyCode);
-        QCOMPARE(p.Logged("  Player 1 captures E3"), 1);
+        p.Drag({2, 3}, {4, 3});   // takes E3
+        QVERIFY(p.g().Board(5, 3) == EmptyCode && p.Logged("  Player 1 captures E3") == 1);
         QCOMPARE(markedVictim, ui::ToQColor(p.g().ColourTable[9]));
         QVERIFY(p.At(5, 3) == background && p.At(4, 3) != background);
         QCOMPARE(p.Find<QLabel>("ptot1")->text(), QString("1"));
-    }
-
-    void UndoRestoresTheDrawnBoard() {
-        // Undo and a click on an older Undo entry show the earlier position as it was drawn.
-        StartedWindow p;
-        p.Load("capture.txt", CaptureLayout);
-        p.Find("Check1")->setChecked(false);
-        const std::string start = EncodePosition(p.g());
-        const QImage drawnAtStart = p.Picture();
-        p.Drag({2, 3}, {4, 3});   // takes E3
         p.Drag({6, 3}, {6, 1});
         auto* undo = p.Find<QListWidget>("Undo");
         QCOMPARE(Lines(undo).front() + "|" + Lines(undo).back(),
                  std::string("Before move 2: King A5, 2 v 1|Before move 1: King A5, 2 v 2"));
         QTest::mouseClick(undo->viewport(), Qt::LeftButton, {}, undo->visualItemRect(undo->item(1)).center());
-        QCOMPARE(EncodePosition(p.g()), start);
-        QVERIFY(undo->count() == 2 && p.Picture() == drawnAtStart);
+        QVERIFY(EncodePosition(p.g()) == start && undo->count() == 2 && p.Picture() == drawnAtStart);
         p.Press("cmdundo");
         QVERIFY(p.g().Board(4, 3) == DefenderCode && p.g().Board(6, 3) == DefenderCode);
         p.Press("cmdundo");
-        QCOMPARE(EncodePosition(p.g()), start);
-        QVERIFY(undo->count() == 0 && p.Picture() == drawnAtStart);
+        QVERIFY(EncodePosition(p.g()) == start && undo->count() == 0 && p.Picture() == drawnAtStart);
     }
 
     void KingDraggedHomeEndsTheGame() {
-        // The King dragged onto a corner wins, with no undo record or reply, and the board waits for a reset.
+        // The King dragged onto a corner wins, with no undo record or reply; the board waits for a reset and the
+        // turn line says how the game ended until then.
         StartedWindow p;
         p.Load("capture.txt", CaptureLayout);
         const QColor king = p.At(1, 5);
@@ -160,9 +133,11 @@ private slots:
         const std::string finished = EncodePosition(p.g());
         p.Drag({2, 3}, {4, 3});
         QCOMPARE(EncodePosition(p.g()), finished);
+        const auto turn = [&] { return p.Find<QLabel>("TurnLine")->text(); };
+        QCOMPARE(turn(), "Game over: The King has reached a corner: the defenders win");
         p.questions.AnswerTo["Reset layout?"] = 6;
         p.Press("cmdreset");
-        QVERIFY(p.Board()->isEnabled() && p.g().KingRow == 5);
+        QVERIFY(p.Board()->isEnabled() && p.g().KingRow == 5 && turn() == "Last move: none yet");
     }
 
     void CandidateLinePreviewsItsMove() {
