@@ -122,15 +122,19 @@ int RunTune(const Args& args) {
         std::cerr << TuneUsage;
         return 1;
     }
+    CommandGame game(true);
     std::string text, opening, reason;
-    if (!ReadWholeFile(o.File, text)) {
+    if (!ReadWholeFile(InProgramFolder(game.g, o.File), text)) {
         std::cerr << o.File << ": cannot be read\n";
         return 2;
     }
     const GameArchive archive = ReadGameArchive(text);
-    CommandGame game(true);
+    if (archive.Opening.empty()) {
+        std::cerr << o.File << ": no archive of recorded games: its first line names no opening\n";
+        return 2;
+    }
     if (!OtnToLayoutLine(archive.Opening, opening, reason) || !ApplyLayoutLine(game.g, opening).Ok()) {
-        std::cerr << o.File << ": no opening: " << reason << '\n';
+        std::cerr << o.File << ": the opening cannot be played: " << reason << '\n';
         return 2;
     }
     game.g.GameRules = o.GameRules;

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdio>
 #include <sstream>
 
 #include "core/Rules.h"
@@ -60,6 +61,8 @@ TEST(Cli, EachCommandPrintsItsResultOrRefusesWithItsExitCode) {
           "1. b4-d4 Kc3-c2"}, ""},
         {"review blunder.txt --depth 2", "", 0, {"1. a2-c2  defenders win ?? (loses 20.00; best b1-b3)",
           "1... Ka3-a1--  defenders win", "Attackers: 1 moves, 0 mistake(s), 1 blunder(s), average loss 20.00"}, ""},
+        {"tune nothere.tsv", "", 2, {}, "nothere.tsv: cannot be read\n"},
+        {"tune small.txt", "", 2, {}, "small.txt: no archive of recorded games: its first line names no opening\n"},
         {"review bad.txt --depth 1", "", 2, {}, "bad.txt\nline 4: pieces arrived on d4/c2: more than one move\n"},
         {"record bad.txt", "", 2, {}, "Moves Log File:\nbad.txt\nline 3: the attackers move twice in a row, where a record has "
                                       "the sides take turns\n"},
@@ -124,6 +127,20 @@ TEST(Cli, EachCommandPrintsItsResultOrRefusesWithItsExitCode) {
     }
     EXPECT_EQ(t.ReadFile("made.txt"), "03030202HEHE0EHEH\r\n");
     EXPECT_EQ(t.ReadFile("noking.txt"), "");
+}
+
+TEST(Cli, TuneFitsWeightsThatJudgeTheRecordedGamesBetter) {
+    // Fitted to recorded games, the weights judge how the games ended better than before, one line a term.
+    TestGame t;
+    const auto r = RunCli("tune '" + jv::test::TestDataPath("games/brandubh.tsv") + "' --rules Brandubh", t.folder.string());
+    ASSERT_EQ(r.exitCode, 0) << r.err;
+    double before = 0, after = 1;
+    const auto loss = std::find_if(r.out.begin(), r.out.end(), [](const std::string& l) { return l.rfind("loss", 0) == 0; });
+    ASSERT_NE(loss, r.out.end());
+    ASSERT_EQ(std::sscanf(loss->c_str(), "loss before %lf, after %lf", &before, &after), 2) << *loss;
+    EXPECT_LT(after, before);
+    EXPECT_EQ(std::count_if(r.out.begin(), r.out.end(), [](const std::string& l) { return l.find(" -> ") != std::string::npos; }),
+              13);
 }
 
 TEST(Cli, RulesAreListedAndEachCommandPlaysUnderTheRuleSetItIsGiven) {
