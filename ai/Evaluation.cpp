@@ -14,16 +14,16 @@ constexpr EvaluationWeights CornerWeights{
     50,     // an attacker
     -100,   // a defender
     -300,   // a free line to an escape square
-    -90,    // an escape square in two moves
+    -250,   // an escape square in two moves
     -8,     // a square the King can move to
     35,     // an attacker (or corner) beside the King
     12,     // an attacker diagonally beside him
     12,     // a step between the King and his nearest escape
     -3,     // a step between an attacker and the King
-    20,     // an attacker sealing a corner
-    40,     // a corner sealed
-    -2,     // a square the King's side can reach
-    250,    // no escape square within the King's side's reach
+    40,     // an attacker sealing a corner
+    150,    // a corner sealed
+    -5,     // a square the King's side can reach
+    500,    // no escape square within the King's side's reach
 };
 
 

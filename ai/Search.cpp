@@ -33,6 +33,11 @@ constexpr int HistoryLimit = 1 << 26;
 // that it does not go round in circles while it can still play on.
 constexpr int Contempt = 40;
 
+// Where a position that comes round again loses for the defenders, a line
+// that repeats one is nearly as good as a win for the attackers: repeated
+// once, it can be repeated again.
+constexpr int RepetitionLoss = 2000;
+
 // Moves picked one by one before the rest of a node's moves is sorted.
 constexpr int SortedPicks = 3;
 
@@ -94,7 +99,7 @@ private:
         return board_.SideToMove() == AttackerCode ? score : -score;
     }
     bool Repeated(int ply) const;
-    int DrawScore(int ply) const;
+    int DrawScore(int ply) const;   // of a position that came round again
     bool Stopped();
     double Seconds() const { return std::chrono::duration<double>(Clock::now() - start_).count(); }
     int ThreatAnswers(BoardMove* moves, const std::array<bool, CellCount>& lines) const;
@@ -132,7 +137,11 @@ bool Searcher::Repeated(int ply) const {
     return std::find(limits_.Played.begin(), limits_.Played.end(), keys_[ply]) != limits_.Played.end();
 }
 
-int Searcher::DrawScore(int ply) const { return ply % 2 == 0 ? -Contempt : Contempt; }
+int Searcher::DrawScore(int ply) const {
+    if (board_.RuleSet().RepetitionLosesForDefenders)
+        return board_.SideToMove() == DefenderCode ? -RepetitionLoss : RepetitionLoss;
+    return ply % 2 == 0 ? -Contempt : Contempt;
+}
 
 bool Searcher::Stopped() {
     if ((nodes_ & 1023) == 0 && !stopped_) {

@@ -147,3 +147,21 @@ TEST(Search, StopsEarlyWhenTheMoveIsClear) {
     EXPECT_EQ(MoveName(r.Best), "1,2>1,3");
     EXPECT_EQ(r.Depth, 1);
 }
+
+TEST(Search, ARepeatedPositionLosesForTheDefendersWhereTheRulesSaySo) {
+    // Where a position come round again loses for the defenders, the attackers make it come round
+    // and score it nearly as a win; elsewhere it is a draw.
+    for (const char* rules : {"Copenhagen", "Classic"}) {
+        TestGame before, t;
+        PlacePieces(before.g, {"H.....H", ".a.....", ".......", "...K...", ".......", ".....d.", "H.....H"});
+        PlacePieces(t.g, {"H.....H", "....a..", ".......", "...K...", ".......", ".....d.", "H.....H"});
+        before.g.GameRules = t.g.GameRules = *FindRules(rules);
+        SearchLimits limits;
+        limits.MaxDepth = 1;
+        limits.Played = {PositionKey(before.g, DefenderCode)};
+        const SearchResult r = SearchBestMove(t.g, AttackerCode, limits);
+        const bool losesForDefenders = rules == std::string("Copenhagen");
+        EXPECT_EQ(r.Score > 1000, losesForDefenders) << rules << ": " << r.Score;
+        if (losesForDefenders) EXPECT_EQ(MoveName(r.Best), "2,5>2,2");
+    }
+}
