@@ -96,6 +96,7 @@ struct PlayerChoice {
     int ThinkMillis = 1000;   // the strong player's thinking time for one move
     int UserSide = DefenderCode;   // the side the user's pointer plays; the computer answers with the other
     std::string EngineCommand;     // the outside engine's command line, run by the shell
+    bool StopWhenClear = false;    // the thinking time is the most the strong player takes: it moves once its move is clear
     friend bool operator==(const PlayerChoice&, const PlayerChoice&) = default;
 };
 

@@ -30,6 +30,12 @@ bool ReadThinkingTime(const std::string& value, int& millis) {
     return false;
 }
 
+bool ReadYes(const std::string& value, bool& yes) {
+    if (value != "yes" && value != "no") return false;
+    yes = value == "yes";
+    return true;
+}
+
 bool ReadSide(const std::string& value, int& side) {
     if (value != "defenders" && value != "attackers") return false;
     side = value == "attackers" ? AttackerCode : DefenderCode;
@@ -61,6 +67,7 @@ ReadResult ReadPlayersText(PlayerChoice& players, std::string_view text) {
                            ((name == "attackers" && ReadKind(value, read.Attackers)) ||
                             (name == "defenders" && ReadKind(value, read.Defenders)) ||
                             (name == "think" && ReadThinkingTime(value, read.ThinkMillis)) ||
+                            (name == "early" && ReadYes(value, read.StopWhenClear)) ||
                             (name == "user" && ReadSide(value, read.UserSide)));
         if (!taken) return ReadResult::Refused("line \"" + line + "\" is no setting of the players");
     }
@@ -70,7 +77,8 @@ ReadResult ReadPlayersText(PlayerChoice& players, std::string_view text) {
 
 std::string PlayersText(const PlayerChoice& players) {
     return "attackers " + KindWord(players.Attackers) + "\r\ndefenders " + KindWord(players.Defenders) +
-           "\r\nthink " + std::to_string(players.ThinkMillis) + "\r\nuser " +
+           "\r\nthink " + std::to_string(players.ThinkMillis) + (players.StopWhenClear ? "\r\nearly yes" : "") +
+           "\r\nuser " +
            (players.UserSide == AttackerCode ? "attackers" : "defenders") + "\r\n" +
            (players.EngineCommand.empty() ? "" : "engine " + players.EngineCommand + "\r\n");
 }

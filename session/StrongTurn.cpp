@@ -87,6 +87,7 @@ std::optional<Move> ThinkStrong(Game& g, int side, bool* stopped) {
     SearchLimits limits;
     limits.Millis = g.Players.ThinkMillis;
     limits.Threads = MachineThreads();
+    limits.StopWhenClear = g.Players.StopWhenClear;
     limits.Stop = &stop;
     limits.Played = PlayedKeys(g, side);
     ProgressMailbox mailbox;

@@ -18,7 +18,7 @@ using jv::test::TestGame;
 const char* const Takeable = "07070404" "HEEEEEH" "EEEEEEE" "EEE1EEE" "EE10E1E" "EEE1EEE" "EEEEEEE" "HEEEEEH";
 
 TEST(PlayerSettings, ReadsItsSettingsOrRefusesTheTextWhole) {
-    // Each line names a side's player, the thinking time, the user's side or the engine's command line (kept as
+    // Each line names a side's player, the thinking time and whether it may end early, the user's side or the engine's command line (kept as
     // written); any other line refuses the text and leaves the choice as it was; what is written reads back the same.
     const PlayerChoice strong{PlayerKind::Strong, PlayerKind::Classic, 3000};
     const struct { const char* text; bool ok; PlayerChoice after; } rows[] = {
@@ -33,6 +33,8 @@ TEST(PlayerSettings, ReadsItsSettingsOrRefusesTheTextWhole) {
         {"defenders engine\nengine  sh -c 'my engine' --depth 3 \n", true,
          {PlayerKind::Classic, PlayerKind::Engine, 1000, DefenderCode, "sh -c 'my engine' --depth 3 "}},
         {"attackers engines\n", false, {}},
+        {"think 3000\nearly yes\n", true, {PlayerKind::Classic, PlayerKind::Classic, 3000, DefenderCode, "", true}},
+        {"early maybe\n", false, {}},
     };
     for (const auto& r : rows) {
         PlayerChoice players;
