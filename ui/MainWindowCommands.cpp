@@ -94,6 +94,7 @@ void MainWindow::ConnectCommands() {
             if (PlaysClassicRules(game_) || shown != PlayerKind::Strong || *kind == PlayerKind::Engine) *kind = shown;
         }
         game_.Players.ThinkMillis = findChild<QComboBox*>("ThinkingTime")->currentData().toInt();
+        game_.Players.StopWhenClear = findChild<QCheckBox*>("StopWhenClear")->isChecked();
         game_.Players.UserSide = findChild<QComboBox*>("UserSide")->currentIndex() == 1 ? AttackerCode : DefenderCode;
         game_.Players.EngineCommand = findChild<QLineEdit*>("EngineCommand")->text().toStdString();
         WritePlayers(game_);
@@ -101,6 +102,7 @@ void MainWindow::ConnectCommands() {
     for (const char* name : {"AttackerPlayer", "DefenderPlayer", "ThinkingTime", "UserSide"})
         connect(findChild<QComboBox*>(name), &QComboBox::activated, this, choosePlayers);
     connect(findChild<QLineEdit*>("EngineCommand"), &QLineEdit::editingFinished, this, choosePlayers);
+    connect(findChild<QCheckBox*>("StopWhenClear"), &QCheckBox::clicked, this, choosePlayers);
     connect(picture_, &BoardPicture::EditorSquarePressed, this, &MainWindow::PlaceInEditor);
     ConnectDebugButtons();
 }
@@ -170,6 +172,7 @@ void MainWindow::ShowPlayers() {
     findChild<QLineEdit*>("EngineCommand")->setText(QString::fromStdString(game_.Players.EngineCommand));
     auto* time = findChild<QComboBox*>("ThinkingTime");
     time->setCurrentIndex(std::max(0, time->findData(game_.Players.ThinkMillis)));
+    findChild<QCheckBox*>("StopWhenClear")->setChecked(game_.Players.StopWhenClear);
     findChild<QComboBox*>("UserSide")->setCurrentIndex(game_.Players.UserSide == AttackerCode);
     // The classic players' one-step tools read the board by the classic rules.
     for (const char* name : {"cmdGetAttackerRank", "cmdGetDefenderRank", "cmdGreenRandom", "cmdRedRandom",

@@ -227,19 +227,23 @@ QWidget* MainWindow::BuildPlayerChoice() {
     time->setToolTip("How long the strong player or the engine thinks about a move");
     grid->addWidget(new QLabel("Thinking:"), 2, 0);
     grid->addWidget(time, 2, 1);
+    auto* early = new QCheckBox("Stop when clear");
+    early->setObjectName("StopWhenClear");
+    early->setToolTip("The thinking time is the most the strong player takes: it moves as soon as its move is clear");
+    grid->addWidget(early, 3, 0, 1, 2);
     auto* engine = new QLineEdit;
     engine->setObjectName("EngineCommand");
     engine->setPlaceholderText("engine command line");
     engine->setToolTip("The command line that starts the Engine player, an OpenTafl engine, run by the shell");
-    grid->addWidget(new QLabel("Engine:"), 3, 0);
-    grid->addWidget(engine, 3, 1);
+    grid->addWidget(new QLabel("Engine:"), 4, 0);
+    grid->addWidget(engine, 4, 1);
     auto* user = new QComboBox;
     user->setObjectName("UserSide");
     user->addItems({"Defenders", "Attackers"});
     user->setToolTip("The side you move on the board; the computer answers with the other");
-    grid->addWidget(new QLabel("You play:"), 4, 0);
-    grid->addWidget(user, 4, 1);
-    grid->addWidget(AddButton("cmdhint", "Hint", "The strong player's move for you, shown on the board"), 5, 0, 1, 2);
+    grid->addWidget(new QLabel("You play:"), 5, 0);
+    grid->addWidget(user, 5, 1);
+    grid->addWidget(AddButton("cmdhint", "Hint", "The strong player's move for you, shown on the board"), 6, 0, 1, 2);
     return choice;
 }
 

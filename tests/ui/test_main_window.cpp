@@ -82,12 +82,14 @@ private slots:
         StartedWindow s;
         QTest::keyClick(s.Find<QComboBox>("AttackerPlayer"), Qt::Key_Down);
         QTest::keyClick(s.Find<QComboBox>("ThinkingTime"), Qt::Key_Up);
+        s.Find<QCheckBox>("StopWhenClear")->click();
         QCOMPARE(s.folder.Read("players.cfg"), std::string("attackers strong\r\ndefenders classic\r\nthink 200\r\n"
-                                                          "user defenders\r\n"));
+                                                          "early yes\r\nuser defenders\r\n"));
         ui::MainWindow again(s.folder.Path());
         QVERIFY(again.Start());
         QCOMPARE(again.findChild<QComboBox*>("AttackerPlayer")->currentText(), QString("Strong"));
         QCOMPARE(again.findChild<QComboBox*>("ThinkingTime")->currentText(), QString("0.2 s"));
+        QVERIFY(again.findChild<QCheckBox*>("StopWhenClear")->isChecked());
         const std::size_t moves = s.g().Undo.size();
         MakeRedAutoMove(s.g());
         QCOMPARE(s.g().Undo.size(), moves + 1);
