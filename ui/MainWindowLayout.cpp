@@ -31,6 +31,7 @@
 #include "ui/MoveListPanel.h"
 #include "ui/widgets/ElidedLabel.h"
 #include "ui/widgets/LineList.h"
+#include "ui/widgets/WrappingCheckBox.h"
 
 namespace jv::ui {
 
@@ -156,7 +157,8 @@ QWidget* MainWindow::BuildCommandColumn() {
     auto* play = new QGroupBox("Play");
     auto* playLayout = new QVBoxLayout(play);
     playLayout->setContentsMargins(GroupMargins);
-    check1_ = new QCheckBox("Computer Moves Auto after User Move");
+    // The longest caption of the column wraps, so that the column stays narrow.
+    check1_ = new WrappingCheckBox("Computer Moves Auto after User Move");
     check1_->setObjectName("Check1");
     check1_->setChecked(true);
     check2_ = new QCheckBox("Record Moves to a Log");
@@ -173,8 +175,11 @@ QWidget* MainWindow::BuildCommandColumn() {
     statusLayout->setContentsMargins(GroupMargins);
     layoutName_ = new ElidedLabel;
     layoutName_->setObjectName("LayoutName");
-    statusLayout->addWidget(new QLabel("Layout:"), 0, 0);
-    statusLayout->addWidget(layoutName_, 0, 1);
+    // The name takes the whole row after its caption, not only the counters' column.
+    auto* nameRow = new QHBoxLayout;
+    nameRow->addWidget(new QLabel("Layout:"));
+    nameRow->addWidget(layoutName_, 1);
+    statusLayout->addLayout(nameRow, 0, 0, 1, 2);
     const char* counterNames[2] = {"ptot0", "ptot1"};
     const char* tips[2] = {"Player 1 remaining pieces", "Player 2 remaining pieces"};
     const char* captions[2] = {"Defenders (Player 1):", "Attackers (Player 2):"};
@@ -202,6 +207,8 @@ QWidget* MainWindow::BuildCommandColumn() {
 
     QListWidget* undo = AddList(ListId::Undo, "Undo");
     undo->setToolTip("Positions before each move, newest first: click one to show it");
+    // It takes the height left, not its own wish: the column then scrolls only when it must.
+    undo->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     layout->addWidget(Captioned("Undo history", undo, undo->toolTip()), 1);
 
     layout->addWidget(AddButton("cmdexit", "Exit", "Save the options and leave JarlsVakt"));
