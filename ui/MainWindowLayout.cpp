@@ -1,7 +1,8 @@
 // The arrangement of the main window: commands on the left, the board large
-// in the middle (with room for the layout editor's palette beside it), the
-// event log and the computer players' lists on the right, and the debug
-// buttons in a panel below that the View menu shows or hides.
+// in the middle (with room for the layout editor's palette beside it), on the
+// right the move list (or the event log, in the tab beside it) above the
+// computer players' lists, and the debug buttons in a panel below that the
+// View menu shows or hides.
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
@@ -123,7 +124,6 @@ void MainWindow::GiveBoardTheRoom() {
     const int total = split_->width() - split_->handleWidth();
     int boardWish = split_->height() + LabelMarginLeft;
     if (picture2_->isVisible()) boardWish += picture2_->width() + 6;
-    boardWish += moves_->width() + 6;
     const int least = std::max(MinListsWidth, split_->widget(1)->minimumSizeHint().width());
     const int lists = std::clamp(total - boardWish, least, std::max(least, MaxListsWidth));
     split_->setSizes({total - lists, lists});
@@ -261,7 +261,6 @@ QWidget* MainWindow::BuildBoardArea() {
     picture2_ = new EditorPalette(game_);
     picture2_->hide();
     layout->addWidget(picture2_);
-    layout->addWidget(moves_ = new MoveListPanel(game_));
     return area;
 }
 
@@ -272,7 +271,7 @@ QListWidget* MainWindow::AddList(ListId id, const char* name) {
     // Lines of unequal length: each line's own width, so a long one can be
     // scrolled to.
     list->setUniformItemSizes(false);
-    list->setMinimumHeight(48);
+    list->setMinimumHeight(40);   // two lines and more: a short window still holds every list
     list->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     list->setTextElideMode(Qt::ElideNone);   // long lines scroll rather than lose their end
     lists_[id] = list;
@@ -323,8 +322,14 @@ QWidget* MainWindow::BuildListsColumn() {
     for (ListId id : {ListId::List1A, ListId::List1D, ListId::SearchLines})
         lists_[id]->viewport()->installEventFilter(this);
 
-    QSplitter* column = Stack({Captioned("Event log", eventLog_), tabs});
-    column->setSizes({360, 440});
+    // The game's record shares the column, above the reasoning, so that a
+    // small screen still leaves the board the room.
+    auto* record = new QTabWidget;
+    record->setObjectName("RecordTabs");
+    record->addTab(moves_ = new MoveListPanel(game_), "Moves");
+    record->addTab(eventLog_, "Event log");
+    QSplitter* column = Stack({record, tabs});
+    column->setSizes({400, 600});
     return column;
 }
 
