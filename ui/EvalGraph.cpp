@@ -16,7 +16,7 @@ constexpr int Margin = 4;
 }  // namespace
 
 EvalGraph::EvalGraph(QWidget* parent) : QWidget(parent) {
-    setMinimumHeight(90);
+    setMinimumHeight(50);   // a short window still shows the move list above it
     setToolTip("The defenders' chances after each move, as the review scores them: click a point to show it");
 }
 

@@ -1,7 +1,8 @@
 // The arrangement of the main window: commands on the left, the board large
-// in the middle (with room for the layout editor's palette beside it), the
-// event log and the computer players' lists on the right, and the debug
-// buttons in a panel below that the View menu shows or hides.
+// in the middle (with room for the layout editor's palette beside it), on the
+// right the move list (or the event log, in the tab beside it) above the
+// computer players' lists, and the debug buttons in a panel below that the
+// View menu shows or hides.
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
@@ -31,6 +32,7 @@
 #include "ui/MoveListPanel.h"
 #include "ui/widgets/ElidedLabel.h"
 #include "ui/widgets/LineList.h"
+#include "ui/widgets/WrappingCheckBox.h"
 
 namespace jv::ui {
 
@@ -122,7 +124,6 @@ void MainWindow::GiveBoardTheRoom() {
     const int total = split_->width() - split_->handleWidth();
     int boardWish = split_->height() + LabelMarginLeft;
     if (picture2_->isVisible()) boardWish += picture2_->width() + 6;
-    boardWish += moves_->width() + 6;
     const int least = std::max(MinListsWidth, split_->widget(1)->minimumSizeHint().width());
     const int lists = std::clamp(total - boardWish, least, std::max(least, MaxListsWidth));
     split_->setSizes({total - lists, lists});
@@ -156,7 +157,8 @@ QWidget* MainWindow::BuildCommandColumn() {
     auto* play = new QGroupBox("Play");
     auto* playLayout = new QVBoxLayout(play);
     playLayout->setContentsMargins(GroupMargins);
-    check1_ = new QCheckBox("Computer Moves Auto after User Move");
+    // The longest caption of the column wraps, so that the column stays narrow.
+    check1_ = new WrappingCheckBox("Computer Moves Auto after User Move");
     check1_->setObjectName("Check1");
     check1_->setChecked(true);
     check2_ = new QCheckBox("Record Moves to a Log");
@@ -173,8 +175,11 @@ QWidget* MainWindow::BuildCommandColumn() {
     statusLayout->setContentsMargins(GroupMargins);
     layoutName_ = new ElidedLabel;
     layoutName_->setObjectName("LayoutName");
-    statusLayout->addWidget(new QLabel("Layout:"), 0, 0);
-    statusLayout->addWidget(layoutName_, 0, 1);
+    // The name takes the whole row after its caption, not only the counters' column.
+    auto* nameRow = new QHBoxLayout;
+    nameRow->addWidget(new QLabel("Layout:"));
+    nameRow->addWidget(layoutName_, 1);
+    statusLayout->addLayout(nameRow, 0, 0, 1, 2);
     const char* counterNames[2] = {"ptot0", "ptot1"};
     const char* tips[2] = {"Player 1 remaining pieces", "Player 2 remaining pieces"};
     const char* captions[2] = {"Defenders (Player 1):", "Attackers (Player 2):"};
@@ -202,6 +207,8 @@ QWidget* MainWindow::BuildCommandColumn() {
 
     QListWidget* undo = AddList(ListId::Undo, "Undo");
     undo->setToolTip("Positions before each move, newest first: click one to show it");
+    // It takes the height left, not its own wish: the column then scrolls only when it must.
+    undo->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     layout->addWidget(Captioned("Undo history", undo, undo->toolTip()), 1);
 
     layout->addWidget(AddButton("cmdexit", "Exit", "Save the options and leave JarlsVakt"));
@@ -258,7 +265,6 @@ QWidget* MainWindow::BuildBoardArea() {
     picture2_ = new EditorPalette(game_);
     picture2_->hide();
     layout->addWidget(picture2_);
-    layout->addWidget(moves_ = new MoveListPanel(game_));
     return area;
 }
 
@@ -269,7 +275,7 @@ QListWidget* MainWindow::AddList(ListId id, const char* name) {
     // Lines of unequal length: each line's own width, so a long one can be
     // scrolled to.
     list->setUniformItemSizes(false);
-    list->setMinimumHeight(48);
+    list->setMinimumHeight(40);   // two lines and more: a short window still holds every list
     list->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     list->setTextElideMode(Qt::ElideNone);   // long lines scroll rather than lose their end
     lists_[id] = list;
@@ -320,8 +326,14 @@ QWidget* MainWindow::BuildListsColumn() {
     for (ListId id : {ListId::List1A, ListId::List1D, ListId::SearchLines})
         lists_[id]->viewport()->installEventFilter(this);
 
-    QSplitter* column = Stack({Captioned("Event log", eventLog_), tabs});
-    column->setSizes({360, 440});
+    // The game's record shares the column, above the reasoning, so that a
+    // small screen still leaves the board the room.
+    auto* record = new QTabWidget;
+    record->setObjectName("RecordTabs");
+    record->addTab(moves_ = new MoveListPanel(game_), "Moves");
+    record->addTab(eventLog_, "Event log");
+    QSplitter* column = Stack({record, tabs});
+    column->setSizes({400, 600});
     return column;
 }
 

@@ -36,7 +36,6 @@ QTableWidgetItem* Item(const QString& text) {
 
 MoveListPanel::MoveListPanel(Game& g, QWidget* parent) : QWidget(parent), g_(g) {
     setObjectName("MoveListPanel");
-    setFixedWidth(250);
     ReviewLimits.Millis = ReviewMillis;
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -49,12 +48,13 @@ MoveListPanel::MoveListPanel(Game& g, QWidget* parent) : QWidget(parent), g_(g) 
     table_->setSelectionMode(QAbstractItemView::SingleSelection);
     table_->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     table_->verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    table_->setMinimumHeight(40);   // two moves' rows, on a short window
     table_->installEventFilter(this);
-    layout->addWidget(table_, 1);
+    layout->addWidget(table_, 3);
 
     graph_ = new EvalGraph;
     graph_->setObjectName("EvalGraph");
-    layout->addWidget(graph_);
+    layout->addWidget(graph_, 1);   // taller as the window is
     verdict_ = new QLabel;
     verdict_->setObjectName("ReviewVerdict");
     verdict_->setWordWrap(true);

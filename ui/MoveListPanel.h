@@ -19,7 +19,7 @@ namespace jv::ui {
 
 class EvalGraph;
 
-// The panel beside the board: the move list (every move of the game, two to
+// The panel of the move list: the move list (every move of the game, two to
 // a row, its captures and the game's end), the review's graph under it and
 // the reviewed move's verdict. A click on a move or on the graph, or an
 // arrow key, shows that position on the board; "Review game..." scores every

@@ -1,5 +1,5 @@
-// The main window's place: within a small screen, the board given the room first, every reasoning tab's
-// caption whole, and the size and place it was left at kept for the next start.
+// The main window's place: within a small screen, the board given the room first, the move list shown,
+// every tab's caption whole, and the size and place it was left at kept for the next start.
 #include "WindowFixture.h"
 
 using namespace jv;
@@ -8,19 +8,23 @@ class TestWindowPlace : public QObject {
     Q_OBJECT
 private slots:
     void OpensWithinASmallScreenTheBoardFirstEveryCaptionWhole() {
-        // On a 900x600 screen the window opens inside the available area, the board wider than each side
-        // column, and every tab shows its whole caption without scroll arrows.
+        // On a 900x600 screen the window opens inside the available area, the board a third wider than each
+        // side column, the move list and its graph shown, and every tab shows its whole caption unscrolled.
         const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
         QCOMPARE(area.size(), QSize(900, 600));
         uitest::StartedWindow s;
         QVERIFY2(area.contains(s.window.frameGeometry()), "the window reaches beyond the screen");
         auto* tabs = s.Find<QTabWidget>("ListTabs");
-        QVERIFY(s.Board()->width() > tabs->width() && s.Board()->width() > s.Find<QWidget>("CommandScroll")->width());
-        const QTabBar* bar = tabs->tabBar();
-        for (int i = 0; i < tabs->count(); ++i)
-            QVERIFY2(bar->tabRect(i).width() > bar->fontMetrics().horizontalAdvance(tabs->tabText(i)) &&
-                         bar->tabRect(i).right() < bar->width(),
-                     qPrintable(tabs->tabText(i)));
+        const int side = std::max(tabs->width(), s.Find<QWidget>("CommandScroll")->width());
+        QVERIFY2(s.Board()->width() > side * 4 / 3, "the board is not the widest column by far");
+        QVERIFY(s.Find<QWidget>("MoveList")->isVisible() && s.Find<QWidget>("EvalGraph")->isVisible());
+        for (const QTabWidget* tabbed : {tabs, s.Find<QTabWidget>("RecordTabs")}) {
+            const QTabBar* bar = tabbed->tabBar();
+            for (int i = 0; i < tabbed->count(); ++i)
+                QVERIFY2(bar->tabRect(i).width() > bar->fontMetrics().horizontalAdvance(tabbed->tabText(i)) &&
+                             bar->tabRect(i).right() < bar->width(),
+                         qPrintable(tabbed->tabText(i)));
+        }
     }
 
     void ComesBackWhereItWasLeftABrokenFileIgnored() {
