@@ -37,6 +37,7 @@ QTableWidgetItem* Item(const QString& text) {
 MoveListPanel::MoveListPanel(Game& g, QWidget* parent) : QWidget(parent), g_(g) {
     setObjectName("MoveListPanel");
     ReviewLimits.Millis = ReviewMillis;
+    ReviewLimits.Threads = MachineThreads();
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(4);
