@@ -9,6 +9,10 @@ namespace jv {
 
 namespace {
 
+// The weights under the classic rules, where a King closed in must still be
+// taken by four: the seals and the ring do not weigh.
+constexpr EvaluationWeights ClassicWeights{50, -100, -300, -90, -8, 35, 12, 12, -3, 0, 0, 0, 0};
+
 // The weights, in hundredths of a defender per unit of each term.
 constexpr EvaluationWeights CornerWeights{
     50,     // an attacker
@@ -118,7 +122,7 @@ void CornerSeals(const RuleBoard& b, EvaluationTerms& terms) {
 
 }  // namespace
 
-EvaluationTerms TermsOf(const RuleBoard& b) {
+EvaluationTerms TermsOf(const RuleBoard& b, bool ring) {
     EvaluationTerms terms{};
     terms[TermAttackers] = b.Attackers();
     terms[TermDefenders] = b.Defenders();
@@ -132,17 +136,19 @@ EvaluationTerms TermsOf(const RuleBoard& b) {
     terms[TermEscapeDistance] = NearestEscape(b, king);
     terms[TermAttackerSteps] = AttackerSteps(b, king);
     CornerSeals(b, terms);
+    if (!ring) return terms;
     const KingRegion region = FindKingRegion(b);
     terms[TermRegionSquares] = region.Squares;
     terms[TermRingClosed] = !region.Escapes;
     return terms;
 }
 
-const EvaluationWeights& WeightsFor(const Rules&) { return CornerWeights; }
+const EvaluationWeights& WeightsFor(const Rules& rules) {
+    return rules == Rules::Classic() ? ClassicWeights : CornerWeights;
+}
 
-int EvaluateForAttackers(const RuleBoard& b) {
-    const EvaluationTerms terms = TermsOf(b);
-    const EvaluationWeights& weights = WeightsFor(b.RuleSet());
+int EvaluateForAttackers(const RuleBoard& b, const EvaluationWeights& weights) {
+    const EvaluationTerms terms = TermsOf(b, weights[TermRegionSquares] != 0 || weights[TermRingClosed] != 0);
     int score = 0;
     for (int t = 0; t < TermCount; ++t) score += weights[t] * terms[t];
     return score;

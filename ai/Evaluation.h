@@ -31,12 +31,13 @@ using EvaluationTerms = std::array<int, TermCount>;
 using EvaluationWeights = std::array<int, TermCount>;
 
 // The terms of the position; all but the material are 0 without the King.
-EvaluationTerms TermsOf(const RuleBoard& b);
+// Without `ring` the region's two terms are left 0, as they cost the most.
+EvaluationTerms TermsOf(const RuleBoard& b, bool ring = true);
 
-// The weights of the terms under the board's rule set.
+// The weights of the terms under a rule set.
 const EvaluationWeights& WeightsFor(const Rules& rules);
 
 // The terms weighted and summed.
-int EvaluateForAttackers(const RuleBoard& b);
+int EvaluateForAttackers(const RuleBoard& b, const EvaluationWeights& weights);
 
 }  // namespace jv

@@ -82,7 +82,7 @@ public:
     // Thread 0 leads the search and reports; the others help it fill the
     // table, every odd one a depth ahead of it so that their work differs.
     Searcher(const Position& g, int side, const SearchLimits& limits, SharedSearch& shared, int thread)
-        : board_(g, side), table_(shared.Table), shared_(shared), limits_(limits), thread_(thread),
+        : board_(g, side), weights_(WeightsFor(board_.RuleSet())), table_(shared.Table), shared_(shared), limits_(limits), thread_(thread),
           history_(2 * CellCount * CellCount, 0), start_(Clock::now()),
           deadline_(start_ + std::chrono::milliseconds(limits.Millis)) {
         for (std::uint64_t key : limits.Played) played_[key % played_.size()] = true;
@@ -95,7 +95,7 @@ private:
     int Negamax(int depth, int alpha, int beta, int ply, bool nullAllowed);
     int Quiesce(int alpha, int beta, int ply, int qply);
     int Evaluate() const {
-        const int score = EvaluateForAttackers(board_);
+        const int score = EvaluateForAttackers(board_, weights_);
         return board_.SideToMove() == AttackerCode ? score : -score;
     }
     bool Repeated(int ply) const;
@@ -114,6 +114,7 @@ private:
     std::vector<Move> Pv() const;
 
     RuleBoard board_;
+    const EvaluationWeights& weights_;
     TranspositionTable& table_;
     SharedSearch& shared_;
     SearchLimits limits_;

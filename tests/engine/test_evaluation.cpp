@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "ai/Evaluation.h"
 #include "ai/KingRegion.h"
 #include "records/LayoutFile.h"
 #include "support/Fixtures.h"
@@ -42,5 +43,24 @@ TEST(KingRegion, IsTheAreaTheKingsSideReachesAndWhetherItTouchesAnEscape) {
         const KingRegion region = FindKingRegion(RuleBoard(t.g, AttackerCode));
         EXPECT_EQ(region.Squares, c.squares) << c.what;
         EXPECT_EQ(region.Escapes, c.escapes) << c.what;
+    }
+}
+
+TEST(Evaluation, CountsTheAttackersThatSealACorner) {
+    // The three squares on the diagonal two steps from a corner seal it; where the King escapes on the edge
+    // there is no corner to seal.
+    const struct { const char* what; std::initializer_list<const char*> cols; const char* rules; int seals, sealed; } rows[] = {
+        {"three seal a corner", {"H.a...H", ".a.....", "a......", "...K...", ".......", ".......", "H.....H"}, "Copenhagen", 3, 1},
+        {"two of the three", {"H.a...H", ".......", "a......", "...K...", ".......", ".......", "H.....H"}, "Copenhagen", 2, 0},
+        {"beside the corner is no seal", {"Ha....H", "a......", ".......", "...K...", ".......", ".......", "H.....H"}, "Copenhagen", 0, 0},
+        {"the edge escape", {"..a....", ".a.....", "a......", "...K...", ".......", ".......", "......."}, "Tablut", 0, 0},
+    };
+    for (const auto& r : rows) {
+        test::TestGame t;
+        ASSERT_TRUE(ApplyLayoutLine(t.g, test::LayoutText(r.cols)).Ok()) << r.what;
+        t.g.GameRules = *FindRules(r.rules);
+        const EvaluationTerms terms = TermsOf(RuleBoard(t.g, AttackerCode));
+        EXPECT_EQ(terms[TermSealSquares], r.seals) << r.what;
+        EXPECT_EQ(terms[TermSealedCorners], r.sealed) << r.what;
     }
 }
