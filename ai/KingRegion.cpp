@@ -2,6 +2,7 @@
 
 #include <bit>
 #include <cstdint>
+#include <vector>
 
 namespace jv {
 
@@ -72,15 +73,35 @@ Cells EscapeCells(const RuleBoard& b) {
     return escape;
 }
 
+// The regions found lately on this thread, by the open squares and the
+// King's square: a search meets the same ring again and again, as most moves
+// leave the attackers where they were.
+struct RememberedRegion {
+    std::uint64_t Key = 0;
+    KingRegion Region;
+};
+
+std::uint64_t RegionKey(const Cells& open, int king) {
+    std::uint64_t key = static_cast<std::uint64_t>(king + 1) * 0x9E3779B97F4A7C15ull;
+    for (std::uint64_t w : open.Word) key = (key ^ w) * 0xFF51AFD7ED558CCDull, key ^= key >> 29;
+    return key;
+}
+
 }  // namespace
 
 KingRegion FindKingRegion(const RuleBoard& b) {
     if (b.King() < 0) return {};
     const Cells open = OpenCells(b);
+    constexpr std::size_t Remembered = 1 << 14;
+    thread_local std::vector<RememberedRegion> remembered(Remembered);
+    const std::uint64_t key = RegionKey(open, b.King()) ^ static_cast<std::uint64_t>(b.RuleSet().KingEscape);
+    RememberedRegion& slot = remembered[key % Remembered];
+    if (slot.Key == key && key != 0) return slot.Region;
     Cells region;
     region.Add(b.King());
     for (Cells next = Grown(region, open); !Same(next, region); next = Grown(region, open)) region = next;
-    return KingRegion{region.Count(), region.Meets(EscapeCells(b))};
+    slot = RememberedRegion{key, KingRegion{region.Count(), region.Meets(EscapeCells(b))}};
+    return slot.Region;
 }
 
 }  // namespace jv

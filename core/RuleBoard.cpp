@@ -165,6 +165,21 @@ int RuleBoard::CountMoves() const {
     return n;
 }
 
+// Most positions show a move at once: a piece beside an empty square that is
+// not the centre may always step there. Only without one are the moves counted.
+bool RuleBoard::HasMove() const {
+    const int list = side_ == AttackerCode ? 1 : 0;
+    const auto stepsOut = [&](int cell) {
+        for (int step : CellSteps)
+            if (cells_[cell + step] == CellEmpty && cell + step != centre_) return true;
+        return false;
+    };
+    if (list == 0 && king_ >= 0 && stepsOut(king_)) return true;
+    for (int i = 0; i < pieceCount_[list]; ++i)
+        if (stepsOut(pieces_[list][i])) return true;
+    return CountMoves() > 0;
+}
+
 int RuleBoard::GenerateOnto(const std::uint8_t* targets, int count, BoardMove* out) const {
     int n = 0;
     for (int t = 0; t < count; ++t) {

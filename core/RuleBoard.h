@@ -139,7 +139,7 @@ public:
     // attackers, hostile squares and, under the classic rules, the edge.
     bool KingSurrounded() const;
     // True when the side to move has a move.
-    bool HasMove() const { return CountMoves() > 0; }
+    bool HasMove() const;
 
     // The number of move sequences of exactly depth moves; a line that ends
     // early (the King home or taken) adds nothing.
