@@ -10,8 +10,9 @@ namespace jv {
 namespace {
 
 // The weights under the classic rules, where a King closed in must still be
-// taken by four: the seals and the ring do not weigh.
-constexpr EvaluationWeights ClassicWeights{50, -100, -300, -90, -8, 35, 12, 12, -3, 0, 0, 0, 0};
+// taken by four: the corners' seals weigh, the ring does not (it had the
+// attackers stand guard round a King they never took).
+constexpr EvaluationWeights ClassicWeights{50, -100, -300, -250, -8, 35, 12, 12, -3, 40, 150, 0, 0};
 
 // The weights, in hundredths of a defender per unit of each term.
 constexpr EvaluationWeights CornerWeights{
